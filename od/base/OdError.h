@@ -1,0 +1,33 @@
+#pragma once
+
+#include <stdexcept>
+#include <string>
+
+#include "od/base/OdResult.h"
+
+/// A failure of the drawing library. `what` is one sentence in UTF-8 for the user.
+class OdError : public std::runtime_error {
+ public:
+  explicit OdError(OdResult code);
+  /// A sentence of the caller's own, with the general code.
+  explicit OdError(const std::string& sentence) : OdError(eGeneralFailure, sentence) {}
+  OdError(OdResult code, const std::string& sentence) : std::runtime_error(sentence), m_code(code) {}
+
+  OdResult code() const { return m_code; }
+
+ private:
+  OdResult m_code;
+};
+
+/// An object is not of the class that the code needs.
+class OdError_NotThatKindOfClass : public OdError {
+ public:
+  /// `have` and `want` are class names.
+  OdError_NotThatKindOfClass(const std::string& have, const std::string& want);
+};
+
+/// An index lies outside its array.
+class OdError_InvalidIndex : public OdError {
+ public:
+  OdError_InvalidIndex() : OdError(eInvalidIndex) {}
+};

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "od/base/OdSmartPtr.h"
+#include "od/base/OdString.h"
+
+class OdRxObject;
+
+/// Makes a new object of a class; the caller owns the one reference it comes with.
+using OdPseudoConstructor = OdSmartPtr<OdRxObject> (*)();
+
+/// What is known of a class at run time. Records live until the program ends or `deleteOdRxClass` takes them
+/// away.
+class OdRxClass {
+ public:
+  struct Description {
+    OdString name;                      ///< class name, unique in the program
+    OdString dxfName;                   ///< name in drawing files, empty where the class is not written
+    OdString appName;                   ///< the application text of the class record
+    OdRxClass* parent = nullptr;        ///< record of the base class, null for `OdRxObject`
+    OdPseudoConstructor constructor{};  ///< null for abstract classes
+    int dwgVersion = 0;
+    int maintenanceVersion = 0;
+    unsigned proxyFlags = 0;
+  };
+
+  explicit OdRxClass(Description description) : m_description(std::move(description)) {}
+
+  const OdString& name() const { return m_description.name; }
+  const OdString& dxfName() const { return m_description.dxfName; }
+  const OdString& appName() const { return m_description.appName; }
+  OdRxClass* myParent() const { return m_description.parent; }
+  int getClassVersion() const { return m_description.dwgVersion; }
+  int getMaintenanceVersion() const { return m_description.maintenanceVersion; }
+  unsigned proxyFlags() const { return m_description.proxyFlags; }
+
+  /// True for `other` itself and for every class below it.
+  bool isDerivedFrom(const OdRxClass* other) const;
+
+  /// A new object; throws `OdError(eNotApplicable)` for an abstract class.
+  OdSmartPtr<OdRxObject> create() const;
+
+ private:
+  Description m_description;
+};
+
+/// Registers a class. Throws `OdError` when a class of the name exists.
+OdRxClass* newOdRxClass(OdRxClass::Description description);
+
+/// Takes a class out of the register and destroys its record. No object of the class may be left.
+void deleteOdRxClass(OdRxClass* record);
+
+/// The record registered under `name`, or null.
+OdRxClass* odrxFindClass(std::u16string_view name);
