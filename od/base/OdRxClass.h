@@ -13,9 +13,9 @@ using OdPseudoConstructor = OdSmartPtr<OdRxObject> (*)();
 class OdRxClass {
  public:
   struct Description {
-    OdString name;                      ///< class name, unique in the program
-    OdString dxfName;                   ///< name in drawing files, empty where the class is not written
-    OdString appName;                   ///< the application text of the class record
+    OdString name{};                    ///< class name, unique in the program
+    OdString dxfName{};                 ///< name in drawing files, empty where the class is not written
+    OdString appName{};                 ///< the application text of the class record
     OdRxClass* parent = nullptr;        ///< record of the base class, null for `OdRxObject`
     OdPseudoConstructor constructor{};  ///< null for abstract classes
     int dwgVersion = 0;
