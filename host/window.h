@@ -1,0 +1,39 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "host/input.h"
+
+/// Shapes of the mouse cursor, by their system number.
+enum HostCursor : int {
+  IDC_ARROW = 32512,
+  IDC_IBEAM = 32513,
+  IDC_SIZENWSE = 32642,
+  IDC_SIZENESW = 32643,
+  IDC_SIZEWE = 32644,
+  IDC_SIZENS = 32645,
+};
+
+/// One row of a popup menu.
+struct HostMenuItem {
+  int command = 0;  ///< what the menu returns; 0 for a separator
+  std::u16string text;
+  bool enabled = true;
+  bool checked = false;
+};
+
+/// The drawing view's window.
+class HostWindow {
+ public:
+  virtual ~HostWindow() = default;
+  virtual void setCursor(HostCursor shape) = 0;
+  /// Mouse messages come here even from outside the window, until `releaseMouse`.
+  virtual void captureMouse() = 0;
+  virtual void releaseMouse() = 0;
+  virtual void takeFocus() = 0;
+  /// Shows a menu at a pixel of the view and waits; the chosen command, 0 for none.
+  virtual int popupMenu(const std::vector<HostMenuItem>& items, HostPixel at) = 0;
+  /// Gives a message to the window behind those that wait.
+  virtual void post(unsigned message) = 0;
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/view.h"
+#include "host/view_overlay.h"
+#include "od/gi/OdGsView.h"
+
+/// A view without a window: a camera and an overlay that nobody paints.
+class WindowlessView : public HostView {
+ public:
+  HostViewOverlay& overlay() override { return m_overlay; }
+  OdGsView& gsView() override { return m_view; }
+  double unitsPerPixel() const override;
+
+ private:
+  HostViewOverlay m_overlay;
+  OdGsView m_view;
+};
