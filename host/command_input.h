@@ -15,15 +15,18 @@ class HostCommandInput {
  public:
   /// Types `text`.
   void type(std::u16string_view text);
+  /// Types one character, which stands for itself.
+  void typeCharacter(char16_t unit) { m_line += unit; }
+  /// Takes back the last character of the line that has not ended.
+  void eraseLast();
+  void endLine();
+  void cancel();
   /// Takes the next whole line or cancel; nothing if none is waiting.
   std::optional<HostInput> take();
   /// What has been typed of a line that has not ended.
   const std::u16string& unfinished() const { return m_line; }
 
  private:
-  void endLine();
-  void cancel();
-
   std::u16string m_line;
   std::deque<HostInput> m_waiting;
 };

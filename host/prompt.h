@@ -27,6 +27,12 @@ enum HostReadFlags : unsigned {
   kReadOnlyWaits = 128,  ///< nothing is read: an empty line ends the wait, typed text is refused
 };
 
+/// Mode flags of `select`.
+enum HostSelectFlags : unsigned {
+  kSelectMany = 0,
+  kSelectOne = 40960,  ///< the first entity ends the selection
+};
+
 /// What is asked.
 struct HostPromptRequest {
   /// The question, without keywords, default and colon; those are added.
@@ -55,8 +61,9 @@ class HostEdPrompt {
   /// A line of text, with `keywords` as in a request and `HostReadFlags`. `answer` may be null.
   virtual int read_input(std::u16string_view prompt, std::u16string_view keywords, unsigned flags,
                          std::u16string* answer = nullptr) = 0;
-  /// Entities: the one under a press in the view, or the last one made for the word `Last`.
-  /// `kAnswerValue` with an empty set: the user gave an empty line.
+  /// Entities: what stands under a press in the view or under a typed point, or the newest one for the word
+  /// `Last`. With `kSelectOne` the first one answers; else an empty line ends the selection. An empty line
+  /// that leaves nothing selected answers `kAnswerNothing`.
   virtual int select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) = 0;
   /// A line of text; with `whole_line` its blanks belong to it, else it ends at the first.
   virtual int getString(const HostPromptRequest& request, bool whole_line, std::u16string& text) = 0;

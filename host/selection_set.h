@@ -10,8 +10,10 @@ class HostSelectionSet {
   HostSelectionSet() = default;
   explicit HostSelectionSet(const OdDbObjectId& id) { add(id); }
 
+  bool contains(const OdDbObjectId& id) const;
   /// Adds an entity; one that is in already keeps its place.
   void add(const OdDbObjectId& id);
+  void remove(const OdDbObjectId& id);
   void clear() { m_ids.clear(); }
   bool isEmpty() const { return m_ids.empty(); }
   const std::vector<OdDbObjectId>& ids() const { return m_ids; }

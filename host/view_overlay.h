@@ -28,10 +28,11 @@ class HostViewOverlay {
 
   /// In the order in which they are to be drawn.
   const std::vector<Layer>& layers() const { return m_layers; }
-  bool isInvalid() const { return !m_invalid.empty(); }
+  /// Something is to be painted anew: a drawable, or the place of one that was removed.
+  bool isInvalid() const { return m_removed || !m_invalid.empty(); }
   bool isInvalid(const OdGiDrawable& drawable) const;
   /// All has been painted.
-  void setPainted() { m_invalid.clear(); }
+  void setPainted();
 
  protected:
   /// Something has become invalid. Called for each time.
@@ -40,4 +41,5 @@ class HostViewOverlay {
  private:
   std::vector<Layer> m_layers;
   std::vector<const OdGiDrawable*> m_invalid;
+  bool m_removed = false;
 };

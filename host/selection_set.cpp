@@ -1,0 +1,13 @@
+#include "host/selection_set.h"
+
+#include <algorithm>
+
+bool HostSelectionSet::contains(const OdDbObjectId& id) const {
+  return std::find(m_ids.begin(), m_ids.end(), id) != m_ids.end();
+}
+
+void HostSelectionSet::add(const OdDbObjectId& id) {
+  if (!contains(id)) m_ids.push_back(id);
+}
+
+void HostSelectionSet::remove(const OdDbObjectId& id) { std::erase(m_ids, id); }
