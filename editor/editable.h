@@ -1,0 +1,240 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "editor/mtext_editor.h"
+#include "editor/text_frame.h"
+#include "mtext/geom_multitext.h"
+#include "mtext/parse.h"
+#include "mtext/string_size_finder.h"
+#include "od/db/OdDbEntity.h"
+
+/// Background of the text while it is edited, as the entity asks for it.
+struct text_background {
+  bool on = false;
+  OdCmEntityColor color;
+  bool use_drawing_background = false;
+  double scale = 1.0;  ///< reach over the text in text heights, plus 1
+};
+
+/// The text of a session: laid out, with its carets, and with every operation that changes it.
+///
+/// It is an entity by class, so that the drawing library can draw it, and no table of the drawing ever holds it.
+/// The operations run over all selections in the order of their positions, which is how several carets type at
+/// once; none of them lays the text out. Whoever called them ends with `endOfEdit`.
+///
+/// Each job has a file of its own, named in the section's heading. Positions are indices into the parts.
+class ExMTextEditable : public OdDbEntity {
+ public:
+  ExMTextEditable();
+  ~ExMTextEditable() override;
+
+  /// The class record, made and registered at the first call.
+  static OdRxClass* desc();
+  OdRxClass* isA() const override { return desc(); }
+  static OdSmartPtr<ExMTextEditable> createObject();
+
+  // ---- editable_load.cpp: settings and contents
+
+  /// The codes to read with `load`, and the field objects for their markers.
+  void setContents(OdString contents, mtext::fields_map fields = {});
+  const OdString& contents() const { return m_contents; }
+  /// Reads the contents into the text, finds its lists and lays it out. The caret stands at 0.
+  void load();
+  /// What measures; kept for the session.
+  void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
+  const mtext::string_size_finder& finder() const { return *m_finder; }
+  /// Columns, spacing and the mode of extents. Height, alignment and vertical place follow `setTextHeight` and
+  /// `setAttachment`.
+  void setLayoutInfo(const mtext::convert_info& info);
+  void setDefaultFormat(const mtext::format::string& format) { m_default_format = format; }
+  const mtext::format::string& defaultFormat() const { return m_default_format; }
+  void setDictionary(mtext::marks::letters_dictionary dictionary) { m_dictionary = std::move(dictionary); }
+  /// The text as format codes, with the markers of its fields.
+  OdString contentsText() const;
+  /// The same with the fields' values in place of the markers.
+  OdString evaluatedContentsText() const;
+  bool hasFields() const;
+
+  // ---- editable_frame.cpp: where it stands
+
+  void setFrame(const text_frame& frame);
+  const text_frame& frame() const { return m_frame; }
+  void setNormal(const OdGeVector3d& normal);
+  /// Turns the direction about the normal, from the x axis that the normal gives.
+  void setRotation(double radians);
+  void setLocation(const OdGePoint3d& location);
+  /// Box of the attachment and, for a text without columns, the wrapping width and height limit.
+  void setSize(double width, double height);
+  /// With `keep_runs` only the base height changes; else the parts scale with it.
+  void setTextHeight(double height, bool keep_runs);
+  double textHeight() const { return m_text.info.height; }
+  /// 0 top left to 8 bottom right; moves the text under its insertion point.
+  void setAttachment(int attachment);
+  int attachment() const { return m_frame.attachment; }
+  OdGePlane plane() const { return m_frame.plane(); }
+  OdGePoint3d origin() const { return m_frame.top_left(); }
+  OdGeVector3d normal() const { return m_frame.normal; }
+  OdGeVector3d direction() const { return m_frame.direction; }
+  /// Box around the laid-out text in text coordinates, z 0; not valid for a text without lines.
+  OdGeExtents3d textExtents() const;
+  text_background background;
+
+  // ---- editable_lines.cpp: lines as entities of their own
+
+  std::size_t lineCount() const { return m_text.lines.size(); }
+  /// Plain text of line `index` without its break. Throws the text's own `std::invalid_argument` beyond the end.
+  std::u16string lineText(std::size_t index) const;
+  /// Where the baseline of line `index` starts, in the world.
+  OdGePoint3d linePosition(std::size_t index) const;
+
+  // ---- editable_draw.cpp
+
+  /// Draws letters and stacks through the text's matrix; in draft mode their boxes alone.
+  bool subWorldDraw(OdGiWorldDraw* draw) const override;
+  void setDraft(bool draft) { m_draft = draft; }
+
+  // ---- editable_filing.cpp
+
+  OdResult dwgInFields(OdDbDwgFiler* filer) override;
+  void dwgOutFields(OdDbDwgFiler* filer) const override;
+  OdResult dxfInFields(OdDbDxfFiler* filer) override;
+  void dxfOutFields(OdDbDxfFiler* filer) const override;
+
+  // ---- editable_selection.cpp: carets
+
+  void moveLeft(bool shift, bool word);
+  void moveRight(bool shift, bool word);
+  void moveUp(bool shift, bool add_caret);
+  void moveDown(bool shift, bool add_caret);
+  void moveHome(bool shift);
+  void moveEnd(bool shift);
+  void moveTextStart(bool shift);
+  void moveTextEnd(bool shift);
+  /// Selects `length` parts from `start`; -1 is up to the end. With `snap` the ends leave solids; with `keep` the
+  /// other selections stay.
+  void selectRange(std::size_t start, std::ptrdiff_t length, bool snap, bool keep);
+  /// The word at a point in text coordinates, or a caret where there is none.
+  void selectWordAt(const OdGePoint2d& at);
+  /// From one point in text coordinates to another.
+  void selectBetween(const OdGePoint2d& anchor, const OdGePoint2d& caret, bool keep);
+  /// All but the first selection go.
+  void keepFirstSelection();
+  void setSelections(const std::vector<mtext::marks::selection>& selections);
+  std::vector<mtext::marks::selection> selections() const;
+  std::size_t selectionCount() const { return selections().size(); }
+
+  // ---- caret_points.cpp
+
+  /// Ends of the caret of `selection` in text coordinates.
+  void caretPoints(const mtext::marks::selection& selection, OdGePoint2d& top, OdGePoint2d& bottom) const;
+
+  // ---- editable_typing.cpp
+
+  void insertChar(char16_t character);
+  /// Plain text with the format at each caret; codes in it are letters.
+  void insertText(std::u16string_view text);
+  void insertLineBreak();
+  /// A space at which no line breaks.
+  void insertNonBreakingSpace();
+  void insertParagraph(bool column_break);
+  /// Ctrl+T: a paragraph that opens a column, unless the text has 100 columns.
+  void insertColumnBreak();
+
+  // ---- editable_tab.cpp
+
+  void insertTab(bool shift);
+
+  // ---- editable_delete.cpp
+
+  void deleteBack(bool word);
+  void deleteForward();
+  /// Erases what is selected; `mark_changed` asks for layout and renumbering.
+  void deleteSelection(bool mark_changed);
+
+  // ---- editable_format.cpp
+
+  void applyFormat(const mtext::format::string_partial& change);
+  /// The format of text typed at `selection` now.
+  mtext::format::string insertionFormat(const mtext::marks::selection& selection) const;
+  const mtext::format::string_partial& pendingFormat() const { return m_pending_format; }
+  /// What the selections have in common; recomputed by `endOfEdit`.
+  const mtext::format::string_partial& currentFormat() const { return m_current_format; }
+  const mtext::format::paragraph_partial& currentParagraph() const { return m_current_paragraph; }
+
+  // ---- editable_style.cpp
+
+  /// Takes font, width and slant of a style. With `keep_runs` every part takes the new default whole; without,
+  /// only what equalled the old default does.
+  void setStyle(OdDbObjectId style, bool keep_runs);
+  OdDbObjectId styleId() const { return m_style; }
+
+  // ---- editable_paragraph.cpp
+
+  void applyParagraph(const mtext::format::paragraph_partial& change);
+
+  // ---- editable_stack.cpp
+
+  void superscript();
+  void subscript();
+  void stackSelection();
+
+  // ---- editable_numbering.cpp
+
+  /// Takes the selected paragraphs out of their lists (`kind` -1), or makes them items counted from `start`.
+  void setNumbering(int kind, std::uint64_t start);
+
+  // ---- editable_clipboard.cpp
+
+  bool copy() const;
+  bool cut();
+  /// `single_line` and `non_empty` tell of the session; see the rules in the file.
+  void paste(bool single_line, bool non_empty);
+
+  // ---- end_of_edit.cpp
+
+  /// Closes every operation: drops the pending format if the selection moved, renumbers and lays out if
+  /// `relayout`, and tells the watchers of a moved selection.
+  void endOfEdit(bool relayout);
+  /// Lays out and recomputes the current formats, whether it is needed or not.
+  void layOut();
+  void notifyWatchers();
+  /// Watchers stay their owner's.
+  void addWatcher(MTextEditor& watcher) { m_watchers.push_back(&watcher); }
+  void removeWatcher(MTextEditor& watcher);
+
+  const mtext::geom_multitext& text() const { return m_text; }
+  /// Replaces text, lines and selections, as undo does.
+  void replaceText(mtext::geom_multitext text) { m_text = std::move(text); }
+
+ private:
+  friend class selection_edit;
+
+  /// Rewrites what is selected at one selection; see `editable_typing.cpp`.
+  void replaceSelection(mtext::marks::selection& selection, mtext::geom_multitext inserted);
+  void eraseRange(const mtext::marks::mark& range);
+  void setTextChanged() { m_numbering_dirty = m_layout_dirty = true; }
+  void recomputeCurrentFormats();
+  void renumber();
+  void remeasure(std::size_t first, std::size_t last);
+
+  OdString m_contents;
+  mtext::fields_map m_fields;
+  mtext::geom_multitext m_text;
+  text_frame m_frame;
+  std::shared_ptr<const mtext::string_size_finder> m_finder;
+  mtext::marks::letters_dictionary m_dictionary;
+  OdDbObjectId m_style;
+  mtext::format::string m_default_format;
+  mtext::format::string_partial m_pending_format;
+  mtext::format::string_partial m_current_format;
+  mtext::format::paragraph_partial m_current_paragraph;
+  std::vector<mtext::marks::selection> m_selections_before;  ///< as `endOfEdit` saw them last
+  std::vector<MTextEditor*> m_watchers;
+  bool m_numbering_dirty = false;
+  bool m_layout_dirty = false;
+  bool m_draft = false;
+};
+
+using ExMTextEditablePtr = OdSmartPtr<ExMTextEditable>;

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <cstddef>
+
+#include "mtext/geom_multitext.h"
+
+/// Where words begin and end for the caret keys. Positions are indices into the parts, as everywhere.
+namespace editing {
+
+/// The place that Ctrl+Left goes to from `position`: in front of the word to the left, over the blanks between.
+/// A break to the left is a stop of its own.
+std::size_t word_start(const mtext::geom_multitext& text, std::size_t position);
+
+/// The place that Ctrl+Right goes to from `position`: behind the word to the right and the blanks after it.
+std::size_t word_end(const mtext::geom_multitext& text, std::size_t position);
+
+/// First position of the paragraph that `position` lies in.
+std::size_t paragraph_start(const mtext::geom_multitext& text, std::size_t position);
+
+}  // namespace editing
