@@ -1,0 +1,24 @@
+#pragma once
+
+#include "od/db/OdDbText.h"
+
+/// The text of an insert for one attribute definition of its block. Its coordinates are those of the insert's
+/// own space.
+class OdDbAttribute : public OdDbText {
+  ODRX_DECLARE_MEMBERS(OdDbAttribute)
+
+ public:
+  OdDbAttribute();
+
+  OdString tag() const;
+  void setTag(const OdString& tag);
+  bool isInvisible() const;
+  bool isConstant() const;
+  int fieldLength() const;
+
+ protected:
+  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  VerticalGroup verticalGroup() const override;
+};
+
+using OdDbAttributePtr = OdSmartPtr<OdDbAttribute>;

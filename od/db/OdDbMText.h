@@ -1,0 +1,106 @@
+#pragma once
+
+#include "od/db/OdDbEntity.h"
+#include "od/db/OdDbMTextLayout.h"
+
+/// Multi-line text. Lengths are in drawing units, angles in radians.
+///
+/// *Text coordinates* have their origin at the location, x along the direction, z along the normal.
+class OdDbMText : public OdDbEntity {
+  ODRX_DECLARE_MEMBERS(OdDbMText)
+
+ public:
+  OdDbMText();
+
+  /// The text with its format codes. Where the file holds a simplified text for old programs beside the true
+  /// one, and nobody changed it since, this is the true one.
+  OdString contents() const;
+  void setContents(const OdString& contents);
+
+  OdGePoint3d location() const;
+  void setLocation(const OdGePoint3d& location);
+  OdGeVector3d normal() const;
+  void setNormal(const OdGeVector3d& normal);
+  /// Length 1. Of a file's direction and rotation the one that stands last counts.
+  OdGeVector3d direction() const;
+  void setDirection(const OdGeVector3d& direction);
+  /// Angle of the direction in the text's plane, from the x axis that the normal gives.
+  double rotation() const;
+  void setRotation(double rotation);
+
+  double textHeight() const;
+  void setTextHeight(double height);
+  /// Width at which lines wrap; 0 means never.
+  double width() const;
+  void setWidth(double width);
+  /// Height that was asked for; 0 means none.
+  double height() const;
+  void setHeight(double height);
+
+  OdDb::AttachmentPoint attachment() const;
+  void setAttachment(OdDb::AttachmentPoint attachment);
+  /// The same with the location moved so that the laid-out text stays where it is.
+  void setAttachmentMovingLocation(OdDb::AttachmentPoint attachment);
+  OdDb::FlowDirection flowDirection() const;
+  void setFlowDirection(OdDb::FlowDirection direction);
+
+  /// The style record; that of "Standard" when the file names none or one that it does not have; null when
+  /// there is no such record either.
+  OdDbObjectId textStyle() const;
+  OdString textStyleName() const;
+  void setTextStyle(OdDbObjectId style);
+
+  OdDb::LineSpacingStyle lineSpacingStyle() const;
+  void setLineSpacingStyle(OdDb::LineSpacingStyle style);
+  /// 0.25 to 4; the distance of baselines is factor x 5/3 x height.
+  double lineSpacingFactor() const;
+  void setLineSpacingFactor(double factor);
+
+  bool backgroundFill() const;
+  void setBackgroundFill(bool on);
+  OdCmColor getBackgroundFillColor() const;
+  void setBackgroundFillColor(const OdCmEntityColor& color);
+  /// True when the fill takes the colour of the drawing's background.
+  bool isBackgroundColorUsed() const;
+  void setUseBackgroundColor(bool on);
+  /// How far the fill reaches over the text, in text heights, plus 1: 1 to 5.
+  double getBackgroundScaleFactor() const;
+  void setBackgroundScaleFactor(double factor);
+  /// True when a frame is drawn around the text.
+  bool showBorders() const;
+
+  OdDb::ColumnType getColumnType() const;
+  void setColumnType(OdDb::ColumnType type);
+  int getColumnCount() const;
+  void setColumnCount(int count);
+  double getColumnWidth() const;
+  void setColumnWidth(double width);
+  double getColumnGutterWidth() const;
+  void setColumnGutterWidth(double gutter);
+  bool getColumnAutoHeight() const;
+  void setColumnAutoHeight(bool on);
+  bool getColumnFlowReversed() const;
+  /// Height of the column at `index`; 0 for one that the file gives none.
+  double getColumnHeight(int index) const;
+  void setColumnHeight(int index, double height);
+
+  /// Width and height of the laid-out text: by the database's layout, without one as the file tells, or else
+  /// the frame.
+  double actualWidth() const;
+  double actualHeight() const;
+
+  /// From text coordinates to the world.
+  OdGeMatrix3d textToWorld() const;
+
+  void setDatabaseDefaults(OdDbDatabase* database) override;
+  OdResult getPlane(OdGePlane& plane) const override;
+  OdResult getGeomExtents(OdGeExtents3d& extents) const override;
+
+ protected:
+  bool drawGeometry(OdGiWorldDraw& draw) const override;
+
+ private:
+  OdDbMTextMeasure measured() const;
+};
+
+using OdDbMTextPtr = OdSmartPtr<OdDbMText>;

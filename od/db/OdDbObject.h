@@ -1,0 +1,109 @@
+#pragma once
+
+#include <memory>
+
+#include "od/base/OdRxObject.h"
+#include "od/db/OdDb.h"
+#include "od/db/OdDbGroupEditor.h"
+#include "od/db/OdDbObjectId.h"
+#include "od/gi/OdGiDrawable.h"
+
+class OdDbDwgFiler;
+class OdDbDxfFiler;
+
+/// Anything that a drawing database keeps. It is a view: getters read the groups of its file record, setters
+/// change them in place, and a value equal to the present one changes nothing.
+///
+/// The database owns its objects; a smart pointer from outside keeps an object *open*, and the last one of
+/// them closes it. An object that was made with `new` and is not in a database is its maker's own and may
+/// always be read and written.
+class OdDbObject : public OdGiDrawable {
+  ODRX_DECLARE_MEMBERS(OdDbObject)
+
+ public:
+  /// Null for an object outside the database.
+  OdDbObjectId objectId() const { return OdDbObjectId(m_stub); }
+  OdDbHandle handle() const { return objectId().handle(); }
+  /// The object that holds this one: the block of an entity, the table of a record, the insert of an
+  /// attribute.
+  OdDbObjectId ownerId() const;
+  /// The database it lies in, or got its defaults from; null when there is none.
+  OdDbDatabase* database() const { return m_database; }
+  bool isDBRO() const { return m_stub != nullptr; }
+
+  bool isReadEnabled() const;
+  bool isWriteEnabled() const;
+  /// Throws `OdError(eNotOpenForRead)`, or `eWasErased` for what was erased and not opened as such.
+  void assertReadEnabled() const;
+  /// Throws `OdError(eNotOpenForWrite)`.
+  void assertWriteEnabled() const;
+  /// From read to write. Throws `OdError(eWasOpenForWrite)` when another writer has the object.
+  void upgradeOpen();
+  /// From write to read.
+  void downgradeOpen();
+
+  /// Takes the object out of the drawing, or back in while the database lives.
+  void erase(bool erasing = true);
+  bool isErased() const;
+  /// True when something of the object differs from the file, until the next save.
+  bool isModified() const;
+
+  /// The field that the extension dictionary holds under `name` ("TEXT"); null when there is none, or when
+  /// the text was changed since without it. A value that is no field comes back as what it is.
+  OdRxObjectPtr getField(const OdString& name, OdDb::OpenMode mode = OdDb::kForRead) const;
+  /// The extension dictionary, or null.
+  OdDbObjectId extensionDictionary() const;
+
+  /// For classes that are no views of a record: the groups of their own. Return `eOk`, or `eMakeMeProxy` when
+  /// the subclass marker is missing.
+  virtual OdResult dxfInFields(OdDbDxfFiler* filer);
+  virtual void dxfOutFields(OdDbDxfFiler* filer) const;
+  virtual OdResult dwgInFields(OdDbDwgFiler* filer);
+  virtual void dwgOutFields(OdDbDwgFiler* filer) const;
+  OdResult dxfIn(OdDbDxfFiler* filer) { return dxfInFields(filer); }
+  void dxfOut(OdDbDxfFiler* filer) const { dxfOutFields(filer); }
+  OdResult dwgIn(OdDbDwgFiler* filer) { return dwgInFields(filer); }
+  void dwgOut(OdDbDwgFiler* filer) const { dwgOutFields(filer); }
+
+  void release() override;
+
+  bool isPersistent() const override { return isDBRO(); }
+
+ protected:
+  /// A new object of the file type `dxfName`, outside any database.
+  /// For objects of the database that the file has no record for.
+  OdDbObject();
+  explicit OdDbObject(const char* dxfName);
+  ~OdDbObject() override;
+
+  friend class OdDbDatabase;
+  friend class OdDbObjectId;
+  friend class OdDbDrawing;
+
+  /// The file record. Throws `OdError(eNotInDatabase)` for one of the few objects that have none.
+  dxf::Record& record() const;
+  bool hasRecord() const { return m_record != nullptr; }
+  void setDatabase(OdDbDatabase* database) { m_database = database; }
+  /// Says that something changed that is to be saved.
+  void touch();
+
+  /// The groups of one part of the record, for reading.
+  OdDbGroups groups(const OdDbSubclass& part) const;
+  /// The same for writing: asserts that it is allowed.
+  OdDbGroupEditor edit(const OdDbSubclass& part);
+
+  /// Called when the object's groups have been written anew in the manner of the file that it came into;
+  /// `before` is the record as it was.
+  virtual void recordMoved(const dxf::Record& before);
+
+ private:
+  void close();
+
+  OdDbStub* m_stub = nullptr;
+  OdDbDatabase* m_database = nullptr;
+  dxf::Record* m_record = nullptr;         ///< in the file's list, or `m_own`
+  std::unique_ptr<dxf::Record> m_own;      ///< of an object outside the database
+  OdDb::OpenMode m_mode = OdDb::kNotOpen;  ///< of an object inside
+};
+
+using OdDbObjectPtr = OdSmartPtr<OdDbObject>;
