@@ -1,6 +1,7 @@
 #pragma once
 
 #include "host/message_filter.h"
+#include "od/db/OdDbObjectId.h"
 
 class HostDocument;
 
@@ -16,6 +17,7 @@ class HostIdleFilter : public HostEdMessageFilter {
   bool filterMessage(const HostWindowMessage& message, const OdGePoint3d& point) override;
 
  private:
+  OdDbObjectId entityAt(const OdGePoint3d& point) const;
   void select(const OdGePoint3d& point, bool shift);
   void edit(const OdGePoint3d& point);
 

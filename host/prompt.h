@@ -25,6 +25,7 @@ enum HostReadFlags : unsigned {
   kReadKeepBlanks = 2,   ///< blanks at the ends stay
   kReadMayBeEmpty = 4,   ///< an empty line is a value
   kReadOnlyWaits = 128,  ///< nothing is read: an empty line ends the wait, typed text is refused
+  kReadCommand = 256,    ///< the command line's own prompt: the end of the input leaves nothing unanswered
 };
 
 /// Mode flags of `select`.
@@ -56,7 +57,7 @@ class HostEdPrompt {
  public:
   virtual ~HostEdPrompt() = default;
 
-  /// A point, pressed in the view or typed in the user's coordinates; `point` is in world coordinates.
+  /// A point, pressed in the view or typed; in world coordinates.
   virtual int getPoint(const HostPromptRequest& request, OdGePoint3d& point) = 0;
   /// A line of text, with `keywords` as in a request and `HostReadFlags`. `answer` may be null.
   virtual int read_input(std::u16string_view prompt, std::u16string_view keywords, unsigned flags,
@@ -77,4 +78,6 @@ class HostEdPrompt {
   virtual int getKeyword(const HostPromptRequest& request) = 0;
   /// Writes a line to the command line.
   virtual void message(std::u16string_view text) = 0;
+  /// The same for the reason why a command does nothing; a script that meets one has not done its work.
+  virtual void refuse(std::u16string_view reason) = 0;
 };

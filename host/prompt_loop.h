@@ -1,20 +1,18 @@
 #pragma once
 
-#include <functional>
-
 #include "host/input.h"
 #include "host/prompt.h"
 
-class HostCommandInput;
 class HostCommandLine;
 class HostDocument;
-class HostEdPointTracker;
+class HostPromptWait;
+struct HostReading;
 
 /// The one prompt of the application, on any source of input.
 ///
 /// A window message goes to the filters first, the tracker of the prompt among them; then a moved cursor
-/// gives its point to the tracker, a left press answers a prompt for a point, the right button and Enter are
-/// an empty line, Esc is a cancel.
+/// gives its point to the tracker, a left press answers a prompt for a point, the right button and Enter end
+/// the line, Esc is a cancel, and characters go to the command line.
 class HostPromptLoop : public HostEdPrompt {
  public:
   /// All three have to outlive the prompt.
@@ -30,26 +28,34 @@ class HostPromptLoop : public HostEdPrompt {
   int getAngle(const HostPromptRequest& request, double& radians) override;
   int getKeyword(const HostPromptRequest& request) override;
   void message(std::u16string_view text) override;
+  void refuse(std::u16string_view reason) override;
 
-  /// Number of prompts that met the end of the input.
+  /// Number of prompts of commands that met the end of the input.
   int unanswered() const { return m_unanswered; }
+  /// Number of reasons given to `refuse`.
+  int refusals() const { return m_refusals; }
 
  private:
-  /// How one prompt takes what comes. Each gives an answer, or nothing to ask again.
-  struct Reading;
-  int ask(const HostPromptRequest& request, const Reading& reading);
-  std::optional<int> answerTo(const HostInput& input, const HostPromptRequest& request,
-                              const Reading& reading);
-  std::optional<int> answerToLine(const std::u16string& line, const HostPromptRequest& request,
-                                  const Reading& reading);
-  std::optional<int> answerToMessage(const HostWindowMessage& message, const HostPromptRequest& request,
-                                     const Reading& reading);
+  int ask(const HostPromptRequest& request, const HostReading& reading);
   HostInput nextInput();
-  void track(const HostPromptRequest& request, const OdGePoint3d& point);
+  std::optional<int> answerTo(const HostInput& input, const HostReading& reading, HostPromptWait& wait);
+  std::optional<int> answerToLine(const std::u16string& line, const HostReading& reading);
+  std::optional<int> answerToEmptyLine(const HostReading& reading);
+  std::optional<int> answerToMessage(const HostWindowMessage& message, const HostReading& reading,
+                                     HostPromptWait& wait);
+  std::optional<int> answerToPress(const OdGePoint3d& point, const HostReading& reading);
+  void typeKey(const HostWindowMessage& message);
+  /// Tells what is wanted and asks again.
+  void askAgain(const HostReading& reading);
+
+  OdGePoint3d basePoint(const HostPromptRequest& request) const;
+  bool addEntityAt(const OdGePoint3d& point, HostSelectionSet& picked);
+  bool addNamedEntity(std::u16string_view line, HostSelectionSet& picked);
 
   HostDocument& m_document;
   HostInputSource& m_source;
   HostCommandLine& m_line;
   OdGePoint3d m_last_point;
   int m_unanswered = 0;
+  int m_refusals = 0;
 };

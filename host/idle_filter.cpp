@@ -1,0 +1,43 @@
+#include "host/idle_filter.h"
+
+#include "host/command_input.h"
+#include "host/document.h"
+#include "host/picking.h"
+#include "host/selection_set.h"
+#include "host/view.h"
+#include "od/db/OdDbMText.h"
+
+bool HostIdleFilter::filterMessage(const HostWindowMessage& message, const OdGePoint3d& point) {
+  if (message.number == WM_LBUTTONDOWN) {
+    select(point, message.shift);
+    return true;
+  }
+  if (message.number == WM_LBUTTONDBLCLK) {
+    edit(point);
+    return true;
+  }
+  return false;
+}
+
+OdDbObjectId HostIdleFilter::entityAt(const OdGePoint3d& point) const {
+  return m_document.picking().pick(point, kAperture * m_document.view().unitsPerPixel());
+}
+
+void HostIdleFilter::select(const OdGePoint3d& point, bool shift) {
+  HostSelectionSet& selected = m_document.pickFirst();
+  const OdDbObjectId id = entityAt(point);
+  if (id.isNull()) {
+    selected.clear();
+  } else if (shift) {
+    selected.remove(id);
+  } else {
+    selected.add(id);
+  }
+}
+
+void HostIdleFilter::edit(const OdGePoint3d& point) {
+  const OdDbObjectId id = entityAt(point);
+  if (id.isNull() || !odCast<OdDbMText>(id.openObject())) return;
+  m_document.pickFirst() = HostSelectionSet(id);
+  m_document.commandInput().type(u"MTextEdit^M");
+}

@@ -1,0 +1,61 @@
+#include "host/document.h"
+#include "host/idle_filter.h"
+#include "host/picking.h"
+#include "host/prompt_loop.h"
+#include "host/prompt_text.h"
+#include "host/reading.h"
+#include "host/selection_set.h"
+#include "host/translate.h"
+#include "host/typed_value.h"
+#include "host/view.h"
+#include "od/base/unicode.h"
+#include "od/db/OdDbBlockTableRecord.h"
+#include "od/db/OdDbDatabase.h"
+
+// The prompt for entities.
+
+namespace {
+
+OdDbObjectId newest_entity(const OdDbDatabase& database) {
+  const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
+  const std::vector<OdDbObjectId> entities = space ? space->entities() : std::vector<OdDbObjectId>();
+  return entities.empty() ? OdDbObjectId() : entities.back();
+}
+
+bool add_if_any(const OdDbObjectId& id, HostSelectionSet& picked) {
+  if (!id.isNull()) picked.add(id);
+  return !id.isNull();
+}
+
+}  // namespace
+
+int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) {
+  picked.clear();
+  const HostPromptRequest request{.prompt = std::u16string(prompt)};
+  const HostReading reading{
+      .prompt = host::prompt_text(request),
+      .keywords = HostKeywordList(u""),
+      .default_answer = {},
+      .may_be_empty = true,
+      .wanted = u"Nothing was found there: press on an entity, type a point on it, or Last.",
+      .take_line = [&](std::u16string_view line) { return addNamedEntity(line, picked); },
+      .take_press = [&](const OdGePoint3d& point) { return addEntityAt(point, picked); }};
+  for (;;) {
+    const int answer = ask(request, reading);
+    if (answer == kAnswerNothing) return picked.isEmpty() ? kAnswerNothing : kAnswerValue;
+    if (answer != kAnswerValue || mode_flags == kSelectOne) return answer;
+  }
+}
+
+bool HostPromptLoop::addEntityAt(const OdGePoint3d& point, HostSelectionSet& picked) {
+  const double aperture = HostIdleFilter::kAperture * m_document.view().unitsPerPixel();
+  return add_if_any(m_document.picking().pick(point, aperture), picked);
+}
+
+bool HostPromptLoop::addNamedEntity(std::u16string_view line, HostSelectionSet& picked) {
+  const std::u16string_view typed = host::without_outer_blanks(line);
+  if (odEqualNoCase(typed, u"Last") || odEqualNoCase(typed, u"L"))
+    return add_if_any(newest_entity(m_document.database()), picked);
+  const auto point = host::typed_point(typed, m_last_point);
+  return point && addEntityAt(*point, picked);
+}

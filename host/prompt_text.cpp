@@ -1,0 +1,25 @@
+#include "host/prompt_text.h"
+
+#include "host/keyword_list.h"
+#include "host/prompt.h"
+
+namespace host {
+
+std::u16string prompt_text(const HostPromptRequest& request) {
+  std::u16string text = request.prompt;
+  const std::u16string keywords = HostKeywordList(request.keywords).shown();
+  if (!keywords.empty()) text += u" [" + keywords + u"]";
+  if (!request.default_answer.empty()) text += u" <" + request.default_answer + u">";
+  const bool is_closed = text.ends_with(u':') || text.ends_with(u'.') || text.ends_with(u'?');
+  if (!text.empty() && !is_closed) text += u':';
+  return text;
+}
+
+std::u16string_view without_outer_blanks(std::u16string_view text) {
+  const auto is_blank = [](char16_t unit) { return unit == u' ' || unit == u'\t'; };
+  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
+  while (!text.empty() && is_blank(text.back())) text.remove_suffix(1);
+  return text;
+}
+
+}  // namespace host
