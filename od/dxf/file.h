@@ -53,6 +53,7 @@ class File {
 
  private:
   File() = default;
+  void read_records();
 
   std::string name_;
   std::unique_ptr<const std::string> bytes_;

@@ -145,6 +145,10 @@ class Record {
   std::size_t body_end() const;
   bool has_markers() const;
   std::size_t skip_application_group(std::size_t index, std::size_t end) const;
+  template <typename Visit>
+  void visit(int code, Range range, Visit visit) const;
+  int width_at(std::size_t index) const;
+  std::optional<std::size_t> coordinate(std::size_t x_index, std::size_t end, int offset) const;
 
   std::shared_ptr<const Manner> manner_;
   std::vector<Group> groups_;

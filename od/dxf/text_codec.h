@@ -38,6 +38,8 @@ class TextCodec {
  private:
   TextCodec(std::shared_ptr<const CodePage> page, Form form) : page_(std::move(page)), form_(form) {}
 
+  bool append(char32_t character, std::string& bytes) const;
+
   std::shared_ptr<const CodePage> page_;  ///< null for UTF-8
   Form form_;
 };

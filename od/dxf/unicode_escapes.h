@@ -13,4 +13,7 @@ namespace dxf {
 /// For those who draw or edit single-line texts. What is malformed stays as it is.
 std::u16string decode_unicode_escapes(std::u16string_view text);
 
+/// Each unit of `units` as `\U+XXXX` with digits in upper case.
+std::u16string unicode_escapes(std::u16string_view units);
+
 }  // namespace dxf
