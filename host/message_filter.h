@@ -23,6 +23,8 @@ class HostMessages {
   void popFilter(HostEdMessageFilter& filter);
   /// Offers a message; true if a filter consumed it.
   bool offer(const HostWindowMessage& message);
+  /// True when a filter of this level or a higher one is there.
+  bool hasLevel(int level) const { return !m_entries.empty() && m_entries.front().level >= level; }
   /// Number of filters.
   std::size_t size() const { return m_entries.size(); }
 

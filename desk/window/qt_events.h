@@ -1,0 +1,17 @@
+#pragma once
+
+#include "host/events.h"
+
+class QWidget;
+
+/// Questions and alerts in boxes over the main window.
+class QtEvents : public IEvents {
+ public:
+  /// `parent` has to outlive the service.
+  explicit QtEvents(QWidget& parent) : m_parent(parent) {}
+  /// Esc and the box's close button answer as Cancel.
+  int box(int level, std::u16string_view text, HostWindow* owner, int style) override;
+
+ private:
+  QWidget& m_parent;
+};
