@@ -30,7 +30,7 @@ class LoadedModules {
  public:
   virtual ~LoadedModules() = default;
   /// Handle of a module that is already loaded: "" is the program itself. Null if there is none such.
-  virtual void* module(std::u16string_view name) const = 0;
+  virtual void* module(std::string_view name) const = 0;
   /// Address of an export of a module; null if it has none such.
   virtual void* symbol(void* module, const char* name) const = 0;
 };

@@ -35,8 +35,8 @@ struct HostWindowMessage {
   unsigned code = 0;    ///< key messages: a `HostKeyCode`; WM_CHAR: a UTF-16 unit
   int repeat = 1;       ///< how often a held key has come
   int wheel = 0;        ///< WM_MOUSEWHEEL: notches, positive away from the user
-  HostPixel pixel;      ///< the cursor
-  OdGePoint3d point;    ///< the cursor in world coordinates
+  HostPixel pixel{};    ///< the cursor
+  OdGePoint3d point{};  ///< the cursor in world coordinates
   bool shift = false;
   bool ctrl = false;
   bool alt = false;

@@ -1,0 +1,75 @@
+#include "host/entity_hit.h"
+
+#include "host/primitive_hit.h"
+#include "od/base/OdArray.h"
+#include "od/db/OdDbMText.h"
+#include "od/db/OdDbText.h"
+#include "od/gi/OdGiRecorder.h"
+
+namespace host {
+namespace {
+
+/// Three corners of a box that may be turned.
+struct TextBox {
+  OdGePoint3d top_left;
+  OdGePoint3d top_right;
+  OdGePoint3d bottom_left;
+};
+
+TextBox box_of(const OdDbMText& text) {
+  const double width = text.actualWidth();
+  const double height = text.actualHeight();
+  const int place = text.attachment() - OdDb::kTopLeft;
+  const double left = -width * (place % 3) / 2;
+  const double top = height * (place / 3) / 2;
+  const OdGeMatrix3d to_world = text.textToWorld();
+  return {to_world * OdGePoint3d{left, top, 0}, to_world * OdGePoint3d{left + width, top, 0},
+          to_world * OdGePoint3d{left, top - height, 0}};
+}
+
+TextBox box_of(const OdDbText& text) {
+  OdArray<OdGePoint3d> corners;
+  text.getBoundingPoints(corners);
+  return {corners[0], corners[1], corners[2]};
+}
+
+/// Whether `offset` lies between 0 and `side`, or beside that by no more than the aperture.
+bool lies_along(const OdGeVector3d& offset, const OdGeVector3d& side, double aperture) {
+  const double length = side.length();
+  const double along = length > 0 ? offset.dotProduct(side) / length : 0;
+  return along >= -aperture && along <= length + aperture;
+}
+
+bool hits_box(const TextBox& box, const OdGePoint3d& point, double aperture) {
+  const OdGeVector3d offset = point - box.top_left;
+  const OdGeVector3d flat{offset.x, offset.y, 0};
+  return lies_along(flat, box.top_right - box.top_left, aperture) &&
+         lies_along(flat, box.bottom_left - box.top_left, aperture);
+}
+
+bool is_far(const OdDbEntity& entity, const OdGePoint3d& point, double aperture) {
+  OdGeExtents3d box;
+  if (entity.getGeomExtents(box) != eOk || !box.isValidExtents()) return false;
+  return point.x < box.minPoint().x - aperture || point.x > box.maxPoint().x + aperture ||
+         point.y < box.minPoint().y - aperture || point.y > box.maxPoint().y + aperture;
+}
+
+bool hits_drawing(OdDbEntity& entity, const OdGePoint3d& point, double aperture) {
+  OdGiRecorder recorder;
+  recorder.record(entity);
+  for (const OdGiPrimitive& primitive : recorder.primitives()) {
+    if (hits_primitive(primitive, point, aperture)) return true;
+  }
+  return false;
+}
+
+}  // namespace
+
+bool hits_entity(OdDbEntity& entity, const OdGePoint3d& point, double aperture) {
+  if (is_far(entity, point, aperture)) return false;
+  if (const auto text = odCast<OdDbMText>(&entity)) return hits_box(box_of(*text), point, aperture);
+  if (const auto text = odCast<OdDbText>(&entity)) return hits_box(box_of(*text), point, aperture);
+  return hits_drawing(entity, point, aperture);
+}
+
+}  // namespace host
