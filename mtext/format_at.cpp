@@ -9,7 +9,8 @@
 namespace mtext::format {
 namespace {
 
-/// The format that typing at `at` goes on with: that of the character to the left, across the label of a list.
+/// The format that typing at `at` goes on with: that of the character to the left, across the label of a
+/// list.
 const string& format_before(const geom_multitext& text, const string& base, std::size_t at) {
   if (at == 0) return base;
   const marks::numbering* label = marks::find_numbering(text.marks, at - 1);

@@ -9,8 +9,8 @@
 namespace mtext {
 namespace {
 
-/// Makes room for `count` more elements, so that the move of them that follows cannot fail halfway. Grows by doubling:
-/// a text that is built by appending stays linear.
+/// Makes room for `count` more elements, so that the move of them that follows cannot fail halfway. Grows by
+/// doubling: a text that is built by appending stays linear.
 template <class PointerVector>
 void make_room(PointerVector& elements, std::size_t count) {
   const std::size_t needed = elements.size() + count;
@@ -87,7 +87,9 @@ void geom_multitext::insert(std::size_t at, geom_multitext&& other) {
   parts.transfer(parts.begin() + at, other.parts);
 }
 
-void geom_multitext::insert(std::size_t at, const geom_multitext& other) { insert(at, geom_multitext(other)); }
+void geom_multitext::insert(std::size_t at, const geom_multitext& other) {
+  insert(at, geom_multitext(other));
+}
 
 void geom_multitext::erase(std::size_t first, std::size_t count, bool drop_empty) {
   const std::size_t erased = checked_count(parts.size(), first, count);

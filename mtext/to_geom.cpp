@@ -22,23 +22,35 @@ class unroller {
 
   void add(const part& source) {
     switch (source.type()) {
-      case part_string: return add_string(static_cast<const string&>(source));
-      case part_spaces: return add_spaces(static_cast<const spaces&>(source));
-      case part_tab: return push<geom_tab>(tab(resolved(source)));
-      case part_new_line: return push<geom_new_line>(new_line(resolved(source)));
-      case part_stack: return add_stack(static_cast<const stack&>(source));
-      case part_new_paragraph: return add_paragraph(static_cast<const new_paragraph&>(source));
-      case part_field: return add_field(static_cast<const field&>(source));
+      case part_string:
+        return add_string(static_cast<const string&>(source));
+      case part_spaces:
+        return add_spaces(static_cast<const spaces&>(source));
+      case part_tab:
+        return push<geom_tab>(tab(resolved(source)));
+      case part_new_line:
+        return push<geom_new_line>(new_line(resolved(source)));
+      case part_stack:
+        return add_stack(static_cast<const stack&>(source));
+      case part_new_paragraph:
+        return add_paragraph(static_cast<const new_paragraph&>(source));
+      case part_field:
+        return add_field(static_cast<const field&>(source));
     }
   }
 
   void add(char16_t character, const format::string& format) {
     switch (character) {
-      case u'\t': return add(tab(format));
-      case u'\n': return add(new_line(format));
-      case u'\r': return;
-      case u' ': return add(spaces(format, 1));
-      default: return add(string(format, std::u16string(1, character)));
+      case u'\t':
+        return add(tab(format));
+      case u'\n':
+        return add(new_line(format));
+      case u'\r':
+        return;
+      case u' ':
+        return add(spaces(format, 1));
+      default:
+        return add(string(format, std::u16string(1, character)));
     }
   }
 

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <vector>
+
+#include "mtext/tab_stop.h"
+#include "mtext/text_cursor.h"
+
+namespace mtext::reading {
+
+/// The list of tab stops behind the `t` of a paragraph code, into `tabs`, which is emptied first. A stop that
+/// is no stop ends the list and leaves the cursor at its start.
+void read_tabs(text_cursor& cursor, std::vector<format::tab_stop>& tabs);
+
+}  // namespace mtext::reading
