@@ -34,8 +34,10 @@ bool equal_tabs(const std::vector<tab_stop>& a, const std::vector<tab_stop>& b) 
                     [](const tab_stop& left, const tab_stop& right) { return equal_tabs(left, right); });
 }
 
+void sort_tabs(std::vector<tab_stop>& tabs) { std::stable_sort(tabs.begin(), tabs.end(), stands_before); }
+
 void clean_tabs(std::vector<tab_stop>& tabs) {
-  std::stable_sort(tabs.begin(), tabs.end(), stands_before);
+  sort_tabs(tabs);
   auto equal = [](const tab_stop& a, const tab_stop& b) { return equal_tabs(a, b); };
   tabs.erase(std::unique(tabs.begin(), tabs.end(), equal), tabs.end());
 }

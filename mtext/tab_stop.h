@@ -25,8 +25,10 @@ bool equal_tabs(const tab_stop& a, const tab_stop& b);
 /// True when both lists hold equal stops in the same order.
 bool equal_tabs(const std::vector<tab_stop>& a, const std::vector<tab_stop>& b);
 
-/// Sorts the stops by position, those at equal positions staying in order, and of each run of equal
-/// neighbours keeps the first.
+/// Sorts the stops by position; those at equal positions stay in order.
+void sort_tabs(std::vector<tab_stop>& tabs);
+
+/// Sorts the stops, and of each run of equal neighbours keeps the first.
 void clean_tabs(std::vector<tab_stop>& tabs);
 
 }  // namespace mtext::format
