@@ -1,12 +1,14 @@
 #include "desk/document/drawing_file.h"
 
+#include <memory>
+
 #include "mtext/entity/mtext_layout.h"
 #include "od/base/unicode.h"
 
 namespace {
 
 OdDbDatabasePtr prepared(OdDbDatabasePtr drawing) {
-  drawing->setTextLayout(mtext::make_text_layout());
+  drawing->setTextLayout(std::make_shared<mtext::mtext_layout>());
   return drawing;
 }
 

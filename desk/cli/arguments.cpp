@@ -1,0 +1,126 @@
+#include "desk/cli/arguments.h"
+
+#include <CLI/CLI.hpp>
+#include <charconv>
+#include <sstream>
+
+#include "desk/cli/exit_code.h"
+
+namespace {
+
+constexpr int kLargestSide = 20000;
+
+/// The numbers of a list such as "1,2,3,4" or "640x480"; fewer than wanted when one cannot be read.
+template <typename Number>
+std::vector<Number> numbers(const std::string& text, char separator) {
+  std::vector<Number> result;
+  const char* at = text.data();
+  const char* const end = at + text.size();
+  for (;;) {
+    Number value{};
+    const auto [stop, error] = std::from_chars(at, end, value);
+    if (error != std::errc()) return {};
+    result.push_back(value);
+    if (stop == end) return result;
+    if (*stop != separator) return {};
+    at = stop + 1;
+  }
+}
+
+void readSize(const std::string& text, RenderOptions& options) {
+  const std::vector<int> sides = numbers<int>(text, 'x');
+  const auto usable = [](int side) { return side >= 1 && side <= kLargestSide; };
+  if (sides.size() != 2 || !usable(sides[0]) || !usable(sides[1]))
+    throw CLI::ValidationError("--size", "\"" + text + "\" is no size such as 1600x1000.");
+  options.size = {sides[0], sides[1]};
+}
+
+void readWindow(const std::string& text, RenderOptions& options) {
+  const std::vector<double> ends = numbers<double>(text, ',');
+  if (ends.size() != 4 || ends[0] == ends[2] || ends[1] == ends[3])
+    throw CLI::ValidationError("--window", "\"" + text + "\" is no window such as 0,0,100,50.");
+  OdGeExtents3d box;
+  box.addPoint({ends[0], ends[1], 0});
+  box.addPoint({ends[2], ends[3], 0});
+  options.window = box;
+}
+
+std::string needsPictureName(const std::string& name) {
+  return canRenderTo(name) ? "" : "\"" + name + "\" ends in none of .png, .svg and .pdf.";
+}
+
+/// The parser and what it fills in. It refers to its own members, so it stays where it is.
+class Parser {
+ public:
+  Parser() {
+    m_app.set_version_flag("--version", "scribe " SCRIBE_VERSION);
+    m_app.add_option("drawing", m_window.drawing, "The drawing to be opened in a window");
+    addRun();
+    addRender();
+    addText();
+  }
+  Parser(const Parser&) = delete;
+  Parser& operator=(const Parser&) = delete;
+
+  Arguments parse(int count, const char* const* words) {
+    try {
+      m_app.parse(count, words);
+    } catch (const CLI::ParseError& end) {
+      std::ostringstream out, error;
+      const int code = m_app.exit(end, out, error);
+      return CalledOff{code == 0 ? kExitDone : kExitUsage, code == 0 ? out.str() : error.str()};
+    }
+    return chosen();
+  }
+
+ private:
+  void addRun() {
+    m_run_app = m_app.add_subcommand("run", "Runs a script on a drawing, without a window");
+    m_run_app->add_option("drawing", m_run.drawing, "The drawing")->required();
+    m_run_app->add_option("script", m_run.script, "The script; - reads standard input")->required();
+    m_run_app->add_option("-o,--output", m_run.output, "Saves the drawing here in the end");
+  }
+
+  void addRender() {
+    m_render_app = m_app.add_subcommand("render", "Draws a drawing into a picture");
+    m_render_app->add_option("drawing", m_render.drawing, "The drawing")->required();
+    m_render_app->add_option("-o,--output", m_render.output, "The picture: .png, .svg or .pdf")
+        ->required()
+        ->check(CLI::Validator(needsPictureName, "FILE"));
+    m_render_app->add_option_function<std::string>(
+        "--size", [this](const std::string& text) { readSize(text, m_render); },
+        "WIDTHxHEIGHT in pixels, 1600x1000 if not told");
+    m_render_app->add_option_function<std::string>(
+        "--window", [this](const std::string& text) { readWindow(text, m_render); },
+        "X0,Y0,X1,Y1: the part to be shown, the whole drawing if not told");
+    m_render_app->add_option("--background", m_render.background, "light or dark")
+        ->transform(CLI::CheckedTransformer(
+            std::map<std::string, Background>{{"light", Background::light}, {"dark", Background::dark}}));
+  }
+
+  void addText() {
+    m_text_app = m_app.add_subcommand("text", "Lists the texts of a drawing");
+    m_text_app->add_option("drawing", m_text.drawing, "The drawing")->required();
+    m_text_app->add_flag("--json", m_text.json, "Prints JSON");
+  }
+
+  Arguments chosen() const {
+    if (m_run_app->parsed()) return m_run;
+    if (m_render_app->parsed()) return m_render;
+    if (m_text_app->parsed()) return m_text;
+    return m_window;
+  }
+
+  CLI::App m_app{"Creates and edits the text of drawings."};
+  CLI::App* m_run_app = nullptr;
+  CLI::App* m_render_app = nullptr;
+  CLI::App* m_text_app = nullptr;
+  WindowOptions m_window;
+  RunOptions m_run;
+  RenderOptions m_render;
+  TextOptions m_text;
+};
+
+}  // namespace
+
+Arguments readArguments(int count, const char* const* words) { return Parser().parse(count, words); }

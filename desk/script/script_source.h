@@ -1,0 +1,48 @@
+#pragma once
+
+#include <deque>
+#include <optional>
+#include <string>
+
+#include "desk/script/script_step.h"
+#include "host/input.h"
+
+class HostAnsweredEvents;
+class HostHeldKeys;
+class HostView;
+class ScriptCommandLine;
+class WindowlessClock;
+
+/// What the steps of a script work on. All outlive the source.
+struct ScriptSurroundings {
+  ScriptCommandLine& line;
+  HostHeldKeys& keys;
+  WindowlessClock& clock;
+  HostAnsweredEvents& events;
+  HostView& view;
+};
+
+/// Input from a script: a prompt that waits gets what the next step gives.
+class ScriptSource : public HostInputSource {
+ public:
+  ScriptSource(Script script, ScriptSurroundings around) : m_script(std::move(script)), m_around(around) {}
+
+  HostInput next() override;
+
+  /// The answer that stands in the next step, if it is one; the step is then done. A question may be answered
+  /// on the line behind the one that raises it.
+  std::optional<ScriptAnswer> takeAnswer();
+  /// Line of the script that was read last; 0 before the first.
+  int line() const { return m_line; }
+
+ private:
+  void perform(const ScriptStep& step);
+  void type(const std::u16string& line);
+  void send(std::vector<HostWindowMessage> messages);
+
+  Script m_script;
+  ScriptSurroundings m_around;
+  std::deque<HostInput> m_waiting;
+  std::size_t m_at = 0;
+  int m_line = 0;
+};
