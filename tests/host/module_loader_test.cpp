@@ -5,6 +5,7 @@
 
 #include <fstream>
 
+#include "host/command.h"
 #include "host/command_loop.h"
 #include "host/windowless/application.h"
 
