@@ -1,0 +1,112 @@
+#include "tests/conformance/multitext_json.h"
+
+#include <stdexcept>
+
+#include "tests/conformance/format_json.h"
+
+namespace conformance {
+
+namespace {
+
+std::unique_ptr<mtext::part> read_field(const json& value, mtext::format::string format) {
+  auto field = std::make_unique<mtext::field>(std::move(format), text_member(value, "code"));
+  auto evaluated = value.find("value");
+  if (evaluated != value.end() && !evaluated->is_null()) field->value = read_text(*evaluated);
+  return field;
+}
+
+void write_members(json& value, const mtext::string& part) { value["text"] = write_text(part.text); }
+
+void write_members(json& value, const mtext::spaces& part) { value["count"] = part.count; }
+
+void write_members(json& value, const mtext::stack& part) {
+  value["numerator"] = write_text(part.numerator);
+  value["denominator"] = write_text(part.denominator);
+  value["kind"] = part.kind;
+}
+
+void write_members(json& value, const mtext::new_paragraph& part) {
+  value["paragraph"] = write_paragraph(part.paragraph);
+  value["column_break"] = part.column_break;
+}
+
+void write_members(json& value, const mtext::field& part) {
+  value["code"] = write_text(part.code);
+  value["value"] = part.value ? write_text(*part.value) : json();
+}
+
+}  // namespace
+
+std::unique_ptr<mtext::part> read_part(const json& value) {
+  auto format = read_format(object_member(value, "format"));
+  switch (value.at("type").get<std::uint32_t>()) {
+    case mtext::part_string:
+      return std::make_unique<mtext::string>(format, text_member(value, "text"));
+    case mtext::part_spaces:
+      return std::make_unique<mtext::spaces>(format, member_or(value, "count", std::uint32_t{1}));
+    case mtext::part_tab:
+      return std::make_unique<mtext::tab>(format);
+    case mtext::part_new_line:
+      return std::make_unique<mtext::new_line>(format);
+    case mtext::part_stack:
+      return std::make_unique<mtext::stack>(format, text_member(value, "numerator"),
+                                            text_member(value, "denominator"),
+                                            member_or(value, "kind", std::uint32_t{0}));
+    case mtext::part_new_paragraph:
+      return std::make_unique<mtext::new_paragraph>(read_paragraph(object_member(value, "paragraph")), format,
+                                                    member_or(value, "column_break", false));
+    case mtext::part_field:
+      return read_field(value, format);
+    default:
+      throw std::runtime_error("part: unknown type");
+  }
+}
+
+json write_part(const mtext::part& part) {
+  json value = {{"type", part.type()}, {"format", write_format(part.format)}};
+  switch (part.type()) {
+    case mtext::part_string:
+      write_members(value, static_cast<const mtext::string&>(part));
+      break;
+    case mtext::part_spaces:
+      write_members(value, static_cast<const mtext::spaces&>(part));
+      break;
+    case mtext::part_stack:
+      write_members(value, static_cast<const mtext::stack&>(part));
+      break;
+    case mtext::part_new_paragraph:
+      write_members(value, static_cast<const mtext::new_paragraph&>(part));
+      break;
+    case mtext::part_field:
+      write_members(value, static_cast<const mtext::field&>(part));
+      break;
+    default:
+      break;
+  }
+  return value;
+}
+
+mtext::multitext read_multitext(const json& value) {
+  mtext::multitext text;
+  text.paragraph = read_paragraph(object_member(value, "paragraph"));
+  for (const auto& part : object_member(value, "parts")) text.parts.push_back(read_part(part).release());
+  return text;
+}
+
+json write_multitext(const mtext::multitext& text) {
+  json parts = json::array();
+  for (const auto& part : text.parts) parts.push_back(write_part(part));
+  return {{"paragraph", write_paragraph(text.paragraph)}, {"parts", parts}};
+}
+
+mtext::fields_map read_fields(const json& value) {
+  mtext::fields_map fields;
+  for (const auto& [marker, evaluated] : value.items()) {
+    OdDbFieldPtr field(new OdDbField(u"", u""), kOdRxObjAttach);
+    field->setEvaluatedText(read_text(evaluated));
+    fields.emplace(read_text(marker), field);
+  }
+  return fields;
+}
+
+}  // namespace conformance

@@ -1,0 +1,21 @@
+#pragma once
+
+#include <memory>
+
+#include "mtext/fields_map.h"
+#include "mtext/multitext.h"
+#include "tests/conformance/text_json.h"
+
+namespace conformance {
+
+/// Throws `std::runtime_error` for a type that no part has.
+std::unique_ptr<mtext::part> read_part(const json& value);
+json write_part(const mtext::part& part);
+
+mtext::multitext read_multitext(const json& value);
+json write_multitext(const mtext::multitext& text);
+
+/// A field object for each marker, which evaluates to the marker's text.
+mtext::fields_map read_fields(const json& value);
+
+}  // namespace conformance
