@@ -7,6 +7,7 @@ CodePage::CodePage() {
 }
 
 void CodePage::map(unsigned char byte, char16_t character) {
+  if (singles_[byte]) bytes_of_.erase(singles_[byte]);
   singles_[byte] = character;
   if (character) bytes_of_.try_emplace(character, 1, static_cast<char>(byte));
 }

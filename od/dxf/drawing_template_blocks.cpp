@@ -15,7 +15,7 @@ const std::string_view dxf::kBlocksTemplate = R"(
 20 0.0
 30 0.0
 3 *Model_Space
-1 
+1
 0 ENDBLK
 5 21
 330 1F
@@ -35,7 +35,7 @@ const std::string_view dxf::kBlocksTemplate = R"(
 20 0.0
 30 0.0
 3 *Paper_Space
-1 
+1
 0 ENDBLK
 5 1D
 330 1B

@@ -78,9 +78,9 @@ const std::string_view dxf::kHeaderTemplate = R"(
 9 $HANDSEED
 5 30
 9 $UCSBASE
-2 
+2
 9 $UCSNAME
-2 
+2
 9 $UCSORG
 10 0.0
 20 0.0

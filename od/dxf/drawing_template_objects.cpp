@@ -73,7 +73,7 @@ const std::string_view dxf::kObjectsTemplate = R"(
 100 AcDbMlineStyle
 2 Standard
 70 0
-3 
+3
 62 256
 51 90.0
 52 90.0
@@ -91,10 +91,10 @@ const std::string_view dxf::kObjectsTemplate = R"(
 102 }
 330 1A
 100 AcDbPlotSettings
-1 
+1
 2 none_device
-4 
-6 
+4
+6
 40 0.0
 41 0.0
 42 0.0
@@ -113,7 +113,7 @@ const std::string_view dxf::kObjectsTemplate = R"(
 72 1
 73 0
 74 5
-7 
+7
 75 16
 147 1.0
 148 0.0
@@ -154,10 +154,10 @@ const std::string_view dxf::kObjectsTemplate = R"(
 102 }
 330 1A
 100 AcDbPlotSettings
-1 
+1
 2 none_device
-4 
-6 
+4
+6
 40 0.0
 41 0.0
 42 0.0
@@ -176,7 +176,7 @@ const std::string_view dxf::kObjectsTemplate = R"(
 72 1
 73 0
 74 0
-7 
+7
 75 16
 147 1.0
 148 0.0

@@ -140,7 +140,7 @@ const std::string_view dxf::kOldDrawingTemplate = R"(
 71 0
 42 2.5
 3 txt
-4 
+4
 0 ENDTAB
 0 TABLE
 2 VIEW

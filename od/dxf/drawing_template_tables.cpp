@@ -76,7 +76,7 @@ const std::string_view dxf::kTablesTemplate = R"(
 100 AcDbLinetypeTableRecord
 2 ByBlock
 70 0
-3 
+3
 72 65
 73 0
 40 0.0
@@ -87,7 +87,7 @@ const std::string_view dxf::kTablesTemplate = R"(
 100 AcDbLinetypeTableRecord
 2 ByLayer
 70 0
-3 
+3
 72 65
 73 0
 40 0.0
@@ -140,7 +140,7 @@ const std::string_view dxf::kTablesTemplate = R"(
 71 0
 42 2.5
 3 arial.ttf
-4 
+4
 1001 ACAD
 1000 Arial
 1071 34

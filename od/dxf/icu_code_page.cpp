@@ -49,6 +49,17 @@ void prefer_usual_bytes(UConverter* converter, CodePage& page) {
   }
 }
 
+struct Correction {
+  std::string_view icu_name;
+  unsigned char byte;
+  char16_t character;
+};
+
+// Where ICU's tables, which come from the mainframe, differ from what the systems that drawings come from do.
+constexpr Correction kCorrections[] = {{"ibm-437", 0xE6, 0x00B5}, {"ibm-852", 0xAA, 0x00AC},
+                                       {"ibm-861", 0xE6, 0x00B5}, {"ibm-864", 0xF1, 0x0651},
+                                       {"ibm-869", 0x88, 0x00B7}, {"ibm-869", 0xEF, 0x0384}};
+
 std::shared_ptr<const CodePage> make_page(const std::string& icu_name) {
   const Converter converter = open_converter(icu_name);
   auto page = std::make_shared<CodePage>();
@@ -61,6 +72,9 @@ std::shared_ptr<const CodePage> make_page(const std::string& icu_name) {
     } else if (double_byte) {
       map_pairs(converter.get(), *page, static_cast<unsigned char>(byte));
     }
+  }
+  for (const Correction& correction : kCorrections) {
+    if (correction.icu_name == icu_name) page->map(correction.byte, correction.character);
   }
   if (double_byte) prefer_usual_bytes(converter.get(), *page);
   return page;
