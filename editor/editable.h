@@ -1,6 +1,8 @@
 #pragma once
 
+#include <functional>
 #include <memory>
+#include <optional>
 #include <vector>
 
 #include "editor/mtext_editor.h"
@@ -40,7 +42,7 @@ class ExMTextEditable : public OdDbEntity {
   /// The codes to read with `load`, and the field objects for their markers.
   void setContents(OdString contents, mtext::fields_map fields = {});
   const OdString& contents() const { return m_contents; }
-  /// Reads the contents into the text, finds its lists and lays it out. The caret stands at 0.
+  /// Reads the contents into the text and lays it out. The caret stands at 0.
   void load();
   /// What measures; kept for the session.
   void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
@@ -50,7 +52,6 @@ class ExMTextEditable : public OdDbEntity {
   void setLayoutInfo(const mtext::convert_info& info);
   void setDefaultFormat(const mtext::format::string& format) { m_default_format = format; }
   const mtext::format::string& defaultFormat() const { return m_default_format; }
-  void setDictionary(mtext::marks::letters_dictionary dictionary) { m_dictionary = std::move(dictionary); }
   /// The text as format codes, with the markers of its fields.
   OdString contentsText() const;
   /// The same with the fields' values in place of the markers.
@@ -81,7 +82,7 @@ class ExMTextEditable : public OdDbEntity {
   OdGeExtents3d textExtents() const;
   text_background background;
 
-  // ---- editable_lines.cpp: lines as entities of their own
+  // ---- editable_lines.cpp: lines as texts of their own
 
   std::size_t lineCount() const { return m_text.lines.size(); }
   /// Plain text of line `index` without its break. Throws the text's own `std::invalid_argument` beyond the end.
@@ -91,8 +92,7 @@ class ExMTextEditable : public OdDbEntity {
 
   // ---- editable_draw.cpp
 
-  /// Draws letters and stacks through the text's matrix; in draft mode their boxes alone.
-  bool subWorldDraw(OdGiWorldDraw* draw) const override;
+  /// In draft mode `worldDraw` draws the boxes of letters and stacks alone.
   void setDraft(bool draft) { m_draft = draft; }
 
   // ---- editable_filing.cpp
@@ -121,6 +121,7 @@ class ExMTextEditable : public OdDbEntity {
   void selectBetween(const OdGePoint2d& anchor, const OdGePoint2d& caret, bool keep);
   /// All but the first selection go.
   void keepFirstSelection();
+  /// Replaces all selections; overlapping ones merge, and every end leaves the solids.
   void setSelections(const std::vector<mtext::marks::selection>& selections);
   std::vector<mtext::marks::selection> selections() const;
   std::size_t selectionCount() const { return selections().size(); }
@@ -150,7 +151,7 @@ class ExMTextEditable : public OdDbEntity {
 
   void deleteBack(bool word);
   void deleteForward();
-  /// Erases what is selected; `mark_changed` asks for layout and renumbering.
+  /// Erases what is selected; `mark_changed` asks for layout.
   void deleteSelection(bool mark_changed);
 
   // ---- editable_format.cpp
@@ -180,11 +181,6 @@ class ExMTextEditable : public OdDbEntity {
   void subscript();
   void stackSelection();
 
-  // ---- editable_numbering.cpp
-
-  /// Takes the selected paragraphs out of their lists (`kind` -1), or makes them items counted from `start`.
-  void setNumbering(int kind, std::uint64_t start);
-
   // ---- editable_clipboard.cpp
 
   bool copy() const;
@@ -194,8 +190,8 @@ class ExMTextEditable : public OdDbEntity {
 
   // ---- end_of_edit.cpp
 
-  /// Closes every operation: drops the pending format if the selection moved, renumbers and lays out if
-  /// `relayout`, and tells the watchers of a moved selection.
+  /// Closes every operation: drops the pending format if the selection moved, lays out if `relayout` and
+  /// something asks for it, and tells the watchers of a moved selection.
   void endOfEdit(bool relayout);
   /// Lays out and recomputes the current formats, whether it is needed or not.
   void layOut();
@@ -208,23 +204,38 @@ class ExMTextEditable : public OdDbEntity {
   /// Replaces text, lines and selections, as undo does.
   void replaceText(mtext::geom_multitext text) { m_text = std::move(text); }
 
- private:
-  friend class selection_edit;
+ protected:
+  /// Draws letters and stacks through the text's matrix.
+  void drawGeometry(OdGiWorldDraw& draw) const override;
 
-  /// Rewrites what is selected at one selection; see `editable_typing.cpp`.
-  void replaceSelection(mtext::marks::selection& selection, mtext::geom_multitext inserted);
+ private:
+  /// What to insert at a position, with the insertion format there.
+  using insertion = std::function<mtext::geom_multitext(const mtext::format::string& format, std::size_t at)>;
+  /// At each selection in turn: takes the insertion format, erases what is selected, inserts what `make` gives.
+  void replaceSelections(const insertion& make);
+  /// Erases what a mark covers; the mark collapses to its begin.
   void eraseRange(const mtext::marks::mark& range);
-  void setTextChanged() { m_numbering_dirty = m_layout_dirty = true; }
   void recomputeCurrentFormats();
-  void renumber();
+  /// Has the parts from `first` to `last` measure themselves again.
   void remeasure(std::size_t first, std::size_t last);
+  void deleteBackAt(const mtext::marks::selection& selection, bool word);
+  void pasteCodes(const std::u16string& codes);
+  void pastePlain(std::u16string_view text);
+  /// Puts a tab in front of each paragraph of `range`, or takes one away with `back`.
+  void indentParagraphs(const mtext::marks::mark& range, bool back);
+  /// What a selected text becomes, in the format of its begin; nothing: it stays.
+  using rebuilding = std::function<std::optional<mtext::geom_multitext>(const mtext::geom_multitext& text,
+                                                                        const mtext::format::string& format)>;
+  /// Rebuilds what each selection holds and selects the outcome.
+  void rebuildSelections(const rebuilding& make);
+  /// One line up (`step` -1) or down (+1).
+  void moveToLine(int step, bool shift, bool add_caret);
 
   OdString m_contents;
   mtext::fields_map m_fields;
   mtext::geom_multitext m_text;
   text_frame m_frame;
   std::shared_ptr<const mtext::string_size_finder> m_finder;
-  mtext::marks::letters_dictionary m_dictionary;
   OdDbObjectId m_style;
   mtext::format::string m_default_format;
   mtext::format::string_partial m_pending_format;
@@ -232,7 +243,6 @@ class ExMTextEditable : public OdDbEntity {
   mtext::format::paragraph_partial m_current_paragraph;
   std::vector<mtext::marks::selection> m_selections_before;  ///< as `endOfEdit` saw them last
   std::vector<MTextEditor*> m_watchers;
-  bool m_numbering_dirty = false;
   bool m_layout_dirty = false;
   bool m_draft = false;
 };

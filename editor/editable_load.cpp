@@ -1,0 +1,46 @@
+#include "editor/editable.h"
+#include "mtext/dispose.h"
+#include "mtext/flatten.h"
+#include "mtext/parse.h"
+#include "mtext/serialize.h"
+#include "mtext/to_geom.h"
+
+void ExMTextEditable::setContents(OdString contents, mtext::fields_map fields) {
+  m_contents = std::move(contents);
+  m_fields = std::move(fields);
+}
+
+void ExMTextEditable::setLayoutInfo(const mtext::convert_info& info) {
+  m_text.info = info;
+  m_frame.attachment = static_cast<int>(info.vertical * 3 + (info.alignment >= 1 ? info.alignment - 1 : 0));
+  m_layout_dirty = true;
+}
+
+void ExMTextEditable::load() {
+  mtext::multitext logical;
+  mtext::parse(m_contents.str(), m_default_format, logical, m_fields);
+  mtext::geom_multitext text = mtext::to_geom(logical, textHeight(), *m_finder);
+  text.info = m_text.info;
+  text.marks.push_back(new mtext::marks::selection(0));
+  m_text = std::move(text);
+  layOut();
+  m_selections_before = selections();
+}
+
+OdString ExMTextEditable::contentsText() const {
+  return mtext::serialize(mtext::flatten(m_text), m_default_format, textHeight());
+}
+
+OdString ExMTextEditable::evaluatedContentsText() const {
+  mtext::geom_multitext plain = m_text;
+  plain.marks.erase_if([](const mtext::marks::mark& mark) {
+    return dynamic_cast<const mtext::marks::field*>(&mark) != nullptr;
+  });
+  return mtext::serialize(mtext::flatten(plain), m_default_format, textHeight());
+}
+
+bool ExMTextEditable::hasFields() const {
+  for (const auto& mark : m_text.marks)
+    if (dynamic_cast<const mtext::marks::field*>(&mark)) return true;
+  return false;
+}

@@ -1,0 +1,39 @@
+#include "editor/editable.h"
+#include "mtext/dispose.h"
+#include "mtext/format_at.h"
+
+namespace {
+
+/// Equal in place and caret side; the line end flag is only how a caret is shown.
+bool same_places(const std::vector<mtext::marks::selection>& a, const std::vector<mtext::marks::selection>& b) {
+  const auto equal = [](const auto& x, const auto& y) {
+    return x.begin == y.begin && x.end == y.end && x.caret_at_begin == y.caret_at_begin;
+  };
+  return std::equal(a.begin(), a.end(), b.begin(), b.end(), equal);
+}
+
+}  // namespace
+
+void ExMTextEditable::recomputeCurrentFormats() {
+  const auto all = selections();
+  if (all.empty()) return;
+  const auto& newest = all.back();
+  m_current_format = mtext::format::current_format(m_text, m_default_format, newest);
+  m_current_paragraph = mtext::format::current_paragraph_format(m_text, newest);
+}
+
+void ExMTextEditable::layOut() {
+  mtext::dispose(m_text);
+  m_layout_dirty = false;
+  recomputeCurrentFormats();
+}
+
+void ExMTextEditable::endOfEdit(bool relayout) {
+  auto now = selections();
+  const bool moved = !same_places(now, m_selections_before);
+  if (moved) m_pending_format = {};
+  m_selections_before = std::move(now);
+  recomputeCurrentFormats();
+  if (relayout && m_layout_dirty) layOut();
+  if (moved) notifyWatchers();
+}

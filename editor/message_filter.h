@@ -1,0 +1,23 @@
+#pragma once
+
+#include "host/message_filter.h"
+
+class smart_edit;
+
+/// The door through which all input of a session comes. While it stands, no key reaches the command line.
+class session_filter : public HostEdMessageFilter {
+ public:
+  /// The session owns the filter.
+  explicit session_filter(smart_edit& session) : m_session(session) {}
+
+  bool filterMessage(const HostWindowMessage& message, const OdGePoint3d& point) override;
+
+ private:
+  void press(const HostWindowMessage& message, const OdGePoint3d& point);
+  void drag(const OdGePoint3d& point);
+  void release();
+  void selectWord(const OdGePoint3d& point);
+  void setCursor(const OdGePoint3d& point);
+
+  smart_edit& m_session;
+};

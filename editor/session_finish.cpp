@@ -1,0 +1,71 @@
+#include "editor/smart_edit.h"
+#include "host/document.h"
+
+namespace {
+
+bool same_columns(const mtext::column_settings& a, const mtext::column_settings& b) {
+  return a.width == b.width && a.gutter == b.gutter && a.kind == b.kind && a.heights == b.heights;
+}
+
+OdDb::ColumnType column_type(const mtext::column_settings& columns) {
+  if (columns.kind != 0) return OdDb::kDynamicColumns;
+  return columns.heights.size() == 1 ? OdDb::kNoColumns : OdDb::kStaticColumns;
+}
+
+}  // namespace
+
+bool smart_edit::textChanged() const { return m_is_new || m_editable->contentsText() != m_origin.contents; }
+
+void smart_edit::writeColumns(OdDbMText& target) {
+  const auto& columns = m_editable->text().info.columns;
+  target.setWidth(columns.width);
+  target.setHeight(columns.heights[0]);
+  const OdDb::ColumnType type = column_type(columns);
+  target.setColumnType(type);
+  if (type == OdDb::kNoColumns) return;
+  target.setColumnWidth(columns.width);
+  target.setColumnGutterWidth(columns.gutter);
+  target.setColumnCount(static_cast<int>(columns.heights.size()));
+  target.setColumnAutoHeight(columns.kind == 2);
+  if (columns.kind != 1) return;
+  for (std::size_t i = 0; i < columns.heights.size(); ++i)
+    target.setColumnHeight(static_cast<int>(i), columns.heights[i]);
+}
+
+void smart_edit::write(OdDbMText& target) {
+  // The entity keeps its own spelling of a text that came out as it went in.
+  if (textChanged())
+    target.setContents(m_editable->hasFields() ? m_editable->evaluatedContentsText() : m_editable->contentsText());
+  if (m_editable->styleId() != m_origin.style) target.setTextStyle(m_editable->styleId());
+  if (!same_columns(m_editable->text().info.columns, m_origin.info.columns)) writeColumns(target);
+  if (m_editable->textHeight() != m_origin.info.height) target.setTextHeight(m_editable->textHeight());
+  if (m_editable->attachment() == m_origin.frame.attachment &&
+      m_editable->frame().location == m_origin.frame.location)
+    return;
+  target.setAttachment(static_cast<OdDb::AttachmentPoint>(m_editable->attachment() + 1));
+  target.setLocation(m_editable->frame().location);
+}
+
+void smart_edit::write(OdDbText& target) {
+  if (!textChanged()) return;
+  target.setTextString(m_editable->lineCount() > 0 ? OdString(m_editable->lineText(0)) : OdString());
+  if (!target.isDefaultAlignment()) target.adjustAlignment();
+}
+
+bool smart_edit::finishEdit(bool accept, bool force) {
+  if (!m_source_text && !m_source_line) return accept;
+  if (!force && m_editable->text().parts.empty()) accept = false;
+  if (accept && m_source_text) write(*m_source_text);
+  if (accept && m_source_line) write(*m_source_line);
+  showSource();
+  return accept;
+}
+
+void smart_edit::showSource() {
+  OdDbEntityPtr source = m_source_text ? OdDbEntityPtr(m_source_text) : OdDbEntityPtr(m_source_line);
+  if (!source) return;
+  source->setVisibility(OdDb::kVisible, true);
+  if (source->isDBRO()) hostEntUpd(source->objectId());
+  m_source_text.release();
+  m_source_line.release();
+}

@@ -1,0 +1,54 @@
+#include "editor/session_keys.h"
+
+#include "editor/held_keys.h"
+#include "editor/key_table.h"
+#include "editor/smart_edit.h"
+#include "host/exports.h"
+#include "host/input.h"
+
+namespace editing {
+
+namespace {
+
+void perform(smart_edit& session, const key_row& row, const held_keys& held, int repeat) {
+  if (row.kind != kUndoNone) session.pushUndoStep(row.kind);
+  if (row.effect == key_effect::moves) session.undo().start_move();
+  const int times = row.repeats ? repeat : 1;
+  for (int i = 0; i < times && row.action; ++i) row.action(session, held);
+}
+
+}  // namespace
+
+void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
+  session.setKeyDown(true);
+  const ExMTextEditablePtr alive(&session.editable());
+  const held_keys held = keys_held(message);
+  const key_row* row = find_key(message.code, held, session);
+  if (row) perform(session, *row, held, message.repeat);
+  const bool handled = row && row->effect != key_effect::passes;
+  if (!handled) session.setKeyDown(false);
+
+  session.repaint(redraw_request::kGadgets);
+  if (!row || row->effect != key_effect::moves) session.repaint(redraw_request::kGadgets | redraw_request::kText);
+  host::update_now();
+  alive->endOfEdit(/*relayout=*/true);
+}
+
+void handle_character(smart_edit& session, const HostWindowMessage& message) {
+  const held_keys held = keys_held(message);
+  const auto character = static_cast<char16_t>(message.code);
+  const bool is_tab = character == u'\t';
+  if (session.isKeyDown() || held.ctrl || (is_tab && session.isSingleLine())) return;
+  const ExMTextEditablePtr text(&session.editable());
+  session.pushUndoStep(kUndoType);
+  for (int i = 0; i < message.repeat; ++i) {
+    if (is_tab)
+      text->insertTab(held.shift);
+    else
+      text->insertChar(character);
+  }
+  session.repaint(redraw_request::kText);
+  text->endOfEdit(/*relayout=*/true);
+}
+
+}  // namespace editing

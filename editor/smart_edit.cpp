@@ -1,0 +1,105 @@
+#include "editor/smart_edit.h"
+
+#include "editor/background.h"
+#include "editor/caret_draw.h"
+#include "editor/highlight.h"
+#include "host/application.h"
+#include "host/command_input.h"
+#include "host/exports.h"
+#include "host/view.h"
+#include "host/view_overlay.h"
+#include "od/ge/OdGeLine3d.h"
+#include "od/gi/OdGsView.h"
+
+namespace {
+
+constexpr int kFilterLevel = 2;
+
+}  // namespace
+
+smart_edit::smart_edit(EditHost& host)
+    : m_host(host),
+      m_editable(ExMTextEditable::createObject()),
+      m_mouse(*m_editable),
+      m_layers(host.view().overlay(), {.text = [this](OdGiWorldDraw& draw) { drawText(draw); },
+                                       .caret = [this](OdGiViewportDraw& draw) { drawCaret(draw); },
+                                       .gadgets = [this](OdGiViewportDraw& draw) { drawGadgets(draw); }}),
+      m_redraw(host.view().overlay(), m_layers.gadgets(), m_layers.text()),
+      m_filter(*this) {
+  m_editable->addWatcher(*this);
+  m_host.messages().pushFilter(m_filter, kFilterLevel);
+  if (HostApplication* application = host::application())
+    m_blink.emplace(application->ticks(), [this] {
+      m_host.view().overlay().invalidate(m_layers.caret());
+      m_host.view().overlay().update();
+    });
+}
+
+smart_edit::~smart_edit() {
+  m_blink.reset();
+  m_host.messages().popFilter(m_filter);
+  m_editable->removeWatcher(*this);
+  showSource();
+}
+
+void smart_edit::pushUndoStep(int kind) { m_undo.push(kind, *m_editable); }
+
+void smart_edit::undoStep() {
+  if (m_undo.undo(*m_editable)) repaint(redraw_request::kGadgets | redraw_request::kText);
+}
+
+void smart_edit::redoStep() {
+  if (m_undo.redo(*m_editable)) repaint(redraw_request::kGadgets | redraw_request::kText);
+}
+
+void smart_edit::accept() { m_host.commandInput().type(u"^M"); }
+
+void smart_edit::cancel() { m_host.commandInput().type(u"^C"); }
+
+void smart_edit::exitAt(const OdGePoint3d& point) {
+  m_exit_point = point;
+  accept();
+}
+
+void smart_edit::repaint(unsigned layers) {
+  m_redraw.set(layers);
+  m_redraw.flush();
+}
+
+std::optional<OdGePoint2d> smart_edit::textPoint(const OdGePoint3d& world) const {
+  const OdGePoint3d seen = m_view_policy.edit_transform().inverse() * world;
+  const OdGePlane plane = m_editable->plane();
+  OdGePoint3d at;
+  if (!OdGeLine3d(seen, m_host.view().gsView().viewDir()).intersectWith(plane, at)) return std::nullopt;
+  return plane.paramOf(at);
+}
+
+void smart_edit::onChanged() { m_redraw.set(redraw_request::kGadgets); }
+
+HostWindow* smart_edit::window() {
+  HostApplication* application = host::application();
+  return application ? &application->window() : nullptr;
+}
+
+void smart_edit::drawText(OdGiWorldDraw& draw) {
+  OdGiGeometry& geometry = draw.geometry();
+  geometry.pushModelTransform(m_view_policy.edit_transform());
+  editing::draw_background(*m_editable, m_host.view().gsView().backgroundColor(), geometry);
+  m_editable->worldDraw(draw);
+  geometry.popModelTransform();
+}
+
+void smart_edit::drawCaret(OdGiViewportDraw& draw) {
+  if (m_blink) m_blink->set_painted();
+  const bool shown = !m_blink || m_blink->is_visible() || m_key_down;
+  if (!shown) return;
+  draw.geometry().pushModelTransform(m_view_policy.edit_transform());
+  editing::draw_carets(*m_editable, draw.geometry());
+  draw.geometry().popModelTransform();
+}
+
+void smart_edit::drawGadgets(OdGiViewportDraw& draw) {
+  draw.geometry().pushModelTransform(m_view_policy.edit_transform());
+  editing::draw_highlights(*m_editable, draw.geometry());
+  draw.geometry().popModelTransform();
+}

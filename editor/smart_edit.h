@@ -1,0 +1,127 @@
+#pragma once
+
+#include <optional>
+
+#include "editor/blink.h"
+#include "editor/editable.h"
+#include "editor/layers.h"
+#include "editor/message_filter.h"
+#include "editor/mouse.h"
+#include "editor/redraw.h"
+#include "editor/undo_stack.h"
+#include "editor/view_policy.h"
+#include "host/edit_host.h"
+#include "od/db/OdDbMText.h"
+#include "od/db/OdDbText.h"
+
+/// How a session begins.
+struct session_start {
+  std::optional<OdGePoint3d> caret_at = {};  ///< world point for the caret; without one it stands at the start
+  bool is_new = false;                       ///< the entity is not in the drawing yet
+  bool compact = false;                      ///< a session with few tools; an empty text is written too
+};
+
+/// One interactive edit of one text in the drawing view. It lives on the stack of the command's function, while the
+/// command waits at the prompt: all editing happens in that wait, through the message filter.
+///
+/// It owns the pieces that do the work and knows how they fit together; what each does stands in its own file.
+class smart_edit : public MTextEditor {
+ public:
+  /// Puts the layers and the filter in place. `host` has to outlive the session.
+  explicit smart_edit(EditHost& host);
+  ~smart_edit() override;
+  smart_edit(const smart_edit&) = delete;
+  smart_edit& operator=(const smart_edit&) = delete;
+
+  // ---- session_begin.cpp
+
+  /// Hides `source` and opens its text. The entity has to be open for write. Throws `OdError_NotThatKindOfClass`
+  /// when its style or field is of another class. Always true.
+  bool beginMTextEdit(OdDbMTextPtr source, const session_start& start = {});
+  /// The same for a single-line text, which is selected whole.
+  bool beginTextEdit(OdDbTextPtr source, const session_start& start = {});
+  /// Opens what was put into the editable by hand, without an entity.
+  void beginPlain(bool single_line, bool had_text);
+
+  // ---- session_finish.cpp
+
+  /// Writes the text into its entity if `accept`, and shows the entity again. An empty text is not accepted unless
+  /// `force`. A text that is as it was opened writes nothing. Returns whether it was accepted in the end; without
+  /// an entity returns `accept`.
+  bool finishEdit(bool accept, bool force);
+
+  void pushUndoStep(int kind);
+  void undoStep();
+  void redoStep();
+  /// True when there is something to save.
+  bool hasChanges() const { return !m_undo.is_empty(); }
+
+  /// Ends the session by acceptance, or by cancelling: what the command waits for is typed at its prompt.
+  void accept();
+  void cancel();
+  /// A press outside the text: acceptance, and the command may use the point.
+  void exitAt(const OdGePoint3d& point);
+  const std::optional<OdGePoint3d>& exitPoint() const { return m_exit_point; }
+
+  /// Sets the redraw bits, flushes them and has the host paint.
+  void repaint(unsigned layers);
+  /// The point of the text's plane that is seen at a world point, in text coordinates; none when the view looks
+  /// along the plane.
+  std::optional<OdGePoint2d> textPoint(const OdGePoint3d& world) const;
+
+  ExMTextEditable& editable() { return *m_editable; }
+  const ExMTextEditable& editable() const { return *m_editable; }
+  const undo_stack& undo() const { return m_undo; }
+  undo_stack& undo() { return m_undo; }
+  text_mouse& mouse() { return m_mouse; }
+  const session_layers& layers() const { return m_layers; }
+  bool isSingleLine() const { return m_single_line; }
+  /// A single-line text that had letters when it was opened.
+  bool editsExistingLine() const { return m_single_line && m_had_text; }
+  bool isCompact() const { return m_compact; }
+  bool isKeyDown() const { return m_key_down; }
+  void setKeyDown(bool down) { m_key_down = down; }
+
+  void onChanged() override;
+  HostWindow* window() override;
+
+ private:
+  /// The text as it was opened, to tell afterwards what changed.
+  struct origin {
+    OdString contents;
+    mtext::convert_info info;
+    text_frame frame;
+    OdDbObjectId style;
+  };
+
+  void hide(OdDbEntity& source);
+  void showSource();
+  void takeOrigin();
+  void startEditing(const session_start& start);
+  bool textChanged() const;
+  void write(OdDbMText& target);
+  void writeColumns(OdDbMText& target);
+  void write(OdDbText& target);
+  void drawText(OdGiWorldDraw& draw);
+  void drawCaret(OdGiViewportDraw& draw);
+  void drawGadgets(OdGiViewportDraw& draw);
+
+  EditHost& m_host;
+  ExMTextEditablePtr m_editable;
+  undo_stack m_undo;
+  text_mouse m_mouse;
+  view_policy m_view_policy;
+  session_layers m_layers;
+  redraw_request m_redraw;
+  session_filter m_filter;
+  std::optional<caret_blink> m_blink;
+  OdDbMTextPtr m_source_text;
+  OdDbTextPtr m_source_line;
+  origin m_origin;
+  std::optional<OdGePoint3d> m_exit_point;
+  bool m_single_line = false;
+  bool m_had_text = false;
+  bool m_is_new = false;
+  bool m_compact = false;
+  bool m_key_down = false;
+};

@@ -1,0 +1,55 @@
+#include "editor/undo_stack.h"
+
+namespace {
+
+UndoSnapshot taken(const ExMTextEditable& text, int kind) {
+  if (kind == kUndoNone) return {};
+  return {.width = text.frame().width,
+          .height = text.frame().height,
+          .text_height = text.textHeight(),
+          .geometry = text.text(),
+          .style = text.styleId(),
+          .attachment = text.attachment(),
+          .kind = kind};
+}
+
+void restore(const UndoSnapshot& step, ExMTextEditable& text) {
+  if (step.kind == kUndoNone) return;
+  if (step.style) text.setStyle(step.style, false);
+  text.setAttachment(step.attachment);
+  text.setSize(step.width, step.height);
+  text.setTextHeight(step.text_height, true);
+  text.replaceText(step.geometry);
+}
+
+/// Puts the present state aside and goes to the newest step of `from`.
+bool step_between(OdArray<UndoSnapshot>& from, OdArray<UndoSnapshot>& to, ExMTextEditable& text) {
+  if (from.isEmpty()) return false;
+  to.append(taken(text, kUndoPresent));
+  restore(from.last(), text);
+  from.removeLast();
+  return true;
+}
+
+}  // namespace
+
+void undo_stack::push(int kind, const ExMTextEditable& text) {
+  if (m_undo.isEmpty()) m_redo.clear();
+  if (kind != m_run_kind && kind != kUndoNone) m_undo.append(taken(text, kind));
+  m_run_kind = kind;
+}
+
+bool undo_stack::undo(ExMTextEditable& text) {
+  m_run_kind = kUndoNone;
+  return step_between(m_undo, m_redo, text);
+}
+
+bool undo_stack::redo(ExMTextEditable& text) {
+  m_run_kind = kUndoNone;
+  return step_between(m_redo, m_undo, text);
+}
+
+void undo_stack::start_move() {
+  m_run_kind = kUndoNone;
+  if (m_undo.isEmpty()) m_redo.clear();
+}

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "editor/editable.h"
+#include "od/base/OdArray.h"
+
+/// The kinds of an undo step: consecutive steps of one kind are one step.
+enum undo_kind : int {
+  kUndoNone = 0,     ///< no run
+  kUndoDelete = 1,   ///< deleting, space, paste, cut by key
+  kUndoType = 2,     ///< typing and Enter
+  kUndoGadget = 3,   ///< press or drag on a tab, an indent, a column gadget
+  kUndoToolbar = 4,  ///< changes from the toolbar
+  kUndoSize = 5,     ///< drag of a width or height sizer
+  kUndoPresent = 9   ///< the present state, which undo and redo put aside
+};
+
+/// The whole state of a text at one moment: undo goes back to states, it has no inverse operations.
+/// The laid-out lines and all selections are part of the geometry.
+struct UndoSnapshot {
+  double width = 0;
+  double height = 0;
+  double text_height = 0;
+  mtext::geom_multitext geometry;
+  OdDbObjectId style;
+  int attachment = 0;
+  int kind = kUndoNone;  ///< 0: an empty step, which holds nothing
+};
+
+/// Undo and redo of one session. A *run* is a sequence of like edits; the state in front of it is the step.
+/// Steps have no bound: a session is short.
+class undo_stack {
+ public:
+  /// Opens or continues a run: takes a snapshot of `text` unless the run has this kind already, or `kind` is 0.
+  /// Redo is dropped only while there is nothing to undo; with steps left, a later redo deliberately brings back
+  /// a state from before the new edit.
+  void push(int kind, const ExMTextEditable& text);
+  /// Goes one step back; false if there is none. The run ends in either case.
+  bool undo(ExMTextEditable& text);
+  /// The mirror of `undo`.
+  bool redo(ExMTextEditable& text);
+  /// A caret key ends the run, and drops redo if there is nothing to undo.
+  void start_move();
+
+  bool is_empty() const { return m_undo.isEmpty(); }
+  unsigned undo_count() const { return m_undo.size(); }
+  unsigned redo_count() const { return m_redo.size(); }
+  int run_kind() const { return m_run_kind; }
+
+ private:
+  OdArray<UndoSnapshot> m_undo;
+  OdArray<UndoSnapshot> m_redo;
+  int m_run_kind = kUndoNone;
+};
