@@ -37,4 +37,7 @@ class OdFont {
   /// The glyph of a character, or null when the font has none. `vertical` asks for the top-to-bottom form; a
   /// font without that mode gives the other.
   virtual const OdFontGlyph* glyph(char32_t character, bool vertical = false) const = 0;
+
+  /// What the font shows for a character that nothing has; null for nothing.
+  virtual const OdFontGlyph* missingGlyph() const { return nullptr; }
 };
