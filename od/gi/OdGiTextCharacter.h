@@ -1,0 +1,22 @@
+#pragma once
+
+#include <string_view>
+#include <vector>
+
+/// One character to be drawn, and the lines that run along with it.
+struct OdGiTextCharacter {
+  char32_t character = 0;
+  bool underlined = false;
+  bool overlined = false;
+  bool struckThrough = false;
+
+  friend bool operator==(const OdGiTextCharacter&, const OdGiTextCharacter&) = default;
+};
+
+/// The characters of a single-line text. A surrogate pair is one of them; half a pair stays what it is.
+///
+/// Unless `raw`, these are read, letters in either case: `%%d` degree, `%%p` plus-minus, `%%c` diameter,
+/// `%%%` a percent sign, `%%u` `%%o` `%%k` turn underline, overline and strike-through on and off, `%%nnn`
+/// with three digits the character of that byte in `codePage`, `\U+XXXX` a UTF-16 unit, and `\M+nXXXX` two
+/// bytes in one of five code pages. A sequence of another form is text like any other.
+std::vector<OdGiTextCharacter> odReadTextCharacters(std::u16string_view text, bool raw, int codePage);
