@@ -20,8 +20,10 @@ TextBox box_of(const OdDbMText& text) {
   const double width = text.actualWidth();
   const double height = text.actualHeight();
   const int place = text.attachment() - OdDb::kTopLeft;
-  const double left = -width * (place % 3) / 2;
-  const double top = height * (place / 3) / 2;
+  const int column = place % 3;
+  const int row = place / 3;
+  const double left = -width * column / 2;
+  const double top = height * row / 2;
   const OdGeMatrix3d to_world = text.textToWorld();
   return {to_world * OdGePoint3d{left, top, 0}, to_world * OdGePoint3d{left + width, top, 0},
           to_world * OdGePoint3d{left, top - height, 0}};
