@@ -25,7 +25,7 @@ struct string {
   /// 0: `height` is in drawing units. 1: a factor of the base text height that the layout receives.
   std::uint32_t height_kind = 1;
   /// The typeface's name, or the file name of a shape font with its ".shx".
-  std::u16string font;
+  std::u16string font = {};
   /// Pitch-and-family number of the font.
   std::uint32_t pitch = 0;
   /// Bits of `string_flag`.
