@@ -7,7 +7,7 @@ class OdDbArc : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbArc)
 
  public:
-  OdDbArc();
+  OdDbArc() = default;
 
   OdGePoint3d center() const;
   void setCenter(const OdGePoint3d& center);
@@ -22,7 +22,8 @@ class OdDbArc : public OdDbEntity {
   OdResult getPlane(OdGePlane& plane) const override;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 };
 
 using OdDbArcPtr = OdSmartPtr<OdDbArc>;

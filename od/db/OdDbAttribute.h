@@ -8,7 +8,7 @@ class OdDbAttribute : public OdDbText {
   ODRX_DECLARE_MEMBERS(OdDbAttribute)
 
  public:
-  OdDbAttribute();
+  OdDbAttribute() = default;
 
   OdString tag() const;
   void setTag(const OdString& tag);
@@ -17,7 +17,8 @@ class OdDbAttribute : public OdDbText {
   int fieldLength() const;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  OdString shownText() const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
   VerticalGroup verticalGroup() const override;
 };
 

@@ -7,7 +7,7 @@ class OdDbAttributeDefinition : public OdDbText {
   ODRX_DECLARE_MEMBERS(OdDbAttributeDefinition)
 
  public:
-  OdDbAttributeDefinition();
+  OdDbAttributeDefinition() = default;
 
   OdString tag() const;
   void setTag(const OdString& tag);
@@ -20,7 +20,8 @@ class OdDbAttributeDefinition : public OdDbText {
   int fieldLength() const;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  OdString shownText() const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
   VerticalGroup verticalGroup() const override;
 };
 

@@ -9,7 +9,7 @@ class OdDbBlockReference : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbBlockReference)
 
  public:
-  OdDbBlockReference();
+  OdDbBlockReference() = default;
 
   OdString blockName() const;
   /// The block's record; null when the drawing has no such block.
@@ -37,7 +37,8 @@ class OdDbBlockReference : public OdDbEntity {
   OdGeMatrix3d blockTransform(int column, int row) const;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 };
 
 using OdDbBlockReferencePtr = OdSmartPtr<OdDbBlockReference>;

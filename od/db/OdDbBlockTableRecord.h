@@ -27,6 +27,9 @@ class OdDbBlockTableRecord : public OdDbSymbolTableRecord {
   /// polyline are not among them.
   std::vector<OdDbObjectId> entities() const;
 
+  /// True when the file defines the block, not only names it.
+  bool hasContents() const { return m_begin != nullptr; }
+
   /// Puts a new entity at the end. The database takes a share in it and gives it a handle, as the file's
   /// version wants; it stays open for write. Throws `OdError(eAlreadyInDb)`, `eNotOpenForWrite`.
   OdDbObjectId appendOdDbEntity(OdDbEntity* entity);

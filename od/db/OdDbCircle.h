@@ -7,7 +7,7 @@ class OdDbCircle : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbCircle)
 
  public:
-  OdDbCircle();
+  OdDbCircle() = default;
   OdDbCircle(const OdGePoint3d& center, double radius);
 
   OdGePoint3d center() const;
@@ -18,7 +18,8 @@ class OdDbCircle : public OdDbEntity {
   OdResult getPlane(OdGePlane& plane) const override;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 };
 
 using OdDbCirclePtr = OdSmartPtr<OdDbCircle>;

@@ -2,12 +2,12 @@
 
 #include <filesystem>
 #include <memory>
-#include <optional>
-#include <vector>
+#include <unordered_map>
+#include <variant>
 
+#include "od/base/OdRxObject.h"
 #include "od/db/OdDbObjectId.h"
-#include "od/db/OdDbSymbolTable.h"
-#include "od/dxf/manner.h"
+#include "od/dxf/file.h"
 #include "od/gi/OdGiFontContext.h"
 
 class OdDbDatabase;
@@ -59,8 +59,11 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
   /// The table of the model's tiled views.
   OdDbObjectId getViewportTableId() const;
 
-  /// The style record that $TEXTSTYLE names, else "Standard", else the first one; null without any.
+  /// The style record that $TEXTSTYLE names, else "Standard", else the first one.
   OdDbObjectId getTEXTSTYLE() const;
+  /// The style record of that name, else "Standard", else the first one. A drawing without styles has a
+  /// "Standard" for the session, as one without layers has a "0".
+  OdDbObjectId textStyleOrStandard(const OdString& name) const;
   /// The layer record that $CLAYER names, else "0".
   OdDbObjectId getCLAYER() const;
 
@@ -82,6 +85,8 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
   void setTextLayout(std::shared_ptr<OdDbMTextLayout> layout) { m_textLayout = std::move(layout); }
   void setFontLibrary(std::shared_ptr<OdFontLibrary> library) { m_fonts = std::move(library); }
 
+  OdFontLibrary& fontLibrary() const override;
+
   /// For the objects of the database.
   OdDbDrawing& drawing() const { return *m_drawing; }
 
@@ -92,9 +97,12 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
   template <typename T, typename... Arguments>
   friend OdSmartPtr<T> odNew(Arguments&&...);
 
-  OdDbDatabase();
-
+  OdDbDatabase() = default;
+  static OdDbDatabasePtr fromFile(dxf::File file, const OdString& name);
   std::unique_ptr<OdDbDrawing> m_drawing;
+  std::unordered_map<OdString, std::variant<double, int, OdString>> m_sessionVariables;
+  OdString m_fileName;
+  mutable std::shared_ptr<OdFontLibrary> m_ownFonts;
   std::shared_ptr<OdDbMTextLayout> m_textLayout;
   std::shared_ptr<OdFontLibrary> m_fonts;
   OdDbObjectId m_activeSpace;

@@ -4,9 +4,9 @@
 
 #include "od/cm/OdCmColor.h"
 #include "od/db/OdDbObject.h"
-#include "od/db/OdDbTransparency.h"
 #include "od/ge/OdGeExtents3d.h"
 #include "od/ge/OdGePlane.h"
+#include "od/gi/OdGiWorldDraw.h"
 
 /// What is drawn and selected: the data that all kinds have in common.
 class OdDbEntity : public OdDbObject {
@@ -36,7 +36,7 @@ class OdDbEntity : public OdDbObject {
   /// Hundredths of a millimetre or a value of `OdDb::LineWeight`.
   int lineWeight() const;
   void setLineWeight(int weight);
-  OdDbTransparency transparency() const;
+  OdGiTransparency transparency() const;
 
   /// Hiding is for the time being: it is never written. `kVisible` ends it; what the file says comes back.
   void setVisibility(OdDb::Visibility visibility, bool doSubents = true);
@@ -51,19 +51,25 @@ class OdDbEntity : public OdDbObject {
   /// The plane that the entity lies in. `eNotApplicable` for one without a plane.
   virtual OdResult getPlane(OdGePlane& plane) const;
   /// The box around the entity in world coordinates. `eInvalidInput` when there is nothing to go round.
-  OdResult getGeomExtents(OdGeExtents3d& extents) const override;
+  virtual OdResult getGeomExtents(OdGeExtents3d& extents) const;
 
-  /// Sets the traits of the entity (colour, weight, layer) on what is being drawn.
-  bool subWorldDraw(OdGiWorldDraw* draw) const override;
+  /// Layer, colour, linetype, weight and transparency.
+  unsigned setAttributes(OdGiDrawableTraits& traits) override;
+  /// Draws the geometry unless the entity is hidden or invisible.
+  bool worldDraw(OdGiWorldDraw& draw) override;
 
  protected:
-  explicit OdDbEntity(const char* dxfName);
-  OdDbEntity();
+  OdDbEntity() = default;
 
-  /// Draws the geometry; the traits are set. True when the world's drawing is all there is.
-  virtual bool drawGeometry(OdGiWorldDraw& draw) const;
+  /// Draws what the entity looks like, with its traits in force.
+  virtual void drawGeometry(OdGiWorldDraw& draw) const;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 
-  /// Groups 210, 220, 230 of `part`.
+  friend class OdDbDrawing;
+
+  /// Says in a record that its entity lies on paper.
+  static void markPaperSpace(dxf::Record& record);
+  /// The extrusion direction in `part`, with length 1.
   OdGeVector3d normalOf(const OdDbSubclass& part) const;
 
  private:

@@ -14,7 +14,7 @@ class OdDbGroupEditor : public OdDbGroups {
   void setReal(int code, double value, std::optional<double> absent = {});
   void setInteger(int code, std::int64_t value, std::optional<std::int64_t> absent = {});
   void setFlag(int code, int bit, bool on);
-  void setString(int code, std::u16string_view value, std::optional<std::u16string_view> absent = {});
+  void setString(int code, const OdString& value, std::optional<std::u16string_view> absent = {});
   void setHandle(int code, dxf::Handle value);
   void setPoint(int code, const OdGePoint3d& value, std::optional<OdGePoint3d> absent = {});
   /// Radians here, degrees in the file; absent means 0.

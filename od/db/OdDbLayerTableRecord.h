@@ -8,7 +8,7 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
   ODRX_DECLARE_MEMBERS(OdDbLayerTableRecord)
 
  public:
-  OdDbLayerTableRecord();
+  OdDbLayerTableRecord() = default;
 
   OdCmColor color() const;
   void setColor(const OdCmEntityColor& color);
@@ -25,6 +25,7 @@ class OdDbLayerTableRecord : public OdDbSymbolTableRecord {
   int lineWeight() const;
 
  protected:
+  std::unique_ptr<dxf::Record> newRecord() const override;
   const OdDbSubclass& ownPart() const override;
 };
 

@@ -7,7 +7,7 @@ class OdDbLine : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbLine)
 
  public:
-  OdDbLine();
+  OdDbLine() = default;
   OdDbLine(const OdGePoint3d& start, const OdGePoint3d& end);
 
   OdGePoint3d startPoint() const;
@@ -16,7 +16,8 @@ class OdDbLine : public OdDbEntity {
   void setEndPoint(const OdGePoint3d& point);
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 };
 
 using OdDbLinePtr = OdSmartPtr<OdDbLine>;

@@ -9,7 +9,7 @@ class OdDbLinetypeTableRecord : public OdDbSymbolTableRecord {
   ODRX_DECLARE_MEMBERS(OdDbLinetypeTableRecord)
 
  public:
-  OdDbLinetypeTableRecord();
+  OdDbLinetypeTableRecord() = default;
 
   OdString comments() const;
   double patternLength() const;
@@ -17,6 +17,7 @@ class OdDbLinetypeTableRecord : public OdDbSymbolTableRecord {
   std::vector<double> dashes() const;
 
  protected:
+  std::unique_ptr<dxf::Record> newRecord() const override;
   const OdDbSubclass& ownPart() const override;
 };
 

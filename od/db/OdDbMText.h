@@ -3,6 +3,9 @@
 #include "od/db/OdDbEntity.h"
 #include "od/db/OdDbMTextLayout.h"
 
+struct OdDbMTextBackground;
+struct OdDbMTextColumns;
+
 /// Multi-line text. Lengths are in drawing units, angles in radians.
 ///
 /// *Text coordinates* have their origin at the location, x along the direction, z along the normal.
@@ -10,7 +13,7 @@ class OdDbMText : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbMText)
 
  public:
-  OdDbMText();
+  OdDbMText() = default;
 
   /// The text with its format codes. Where the file holds a simplified text for old programs beside the true
   /// one, and nobody changed it since, this is the true one.
@@ -80,6 +83,7 @@ class OdDbMText : public OdDbEntity {
   bool getColumnAutoHeight() const;
   void setColumnAutoHeight(bool on);
   bool getColumnFlowReversed() const;
+  /// A text without columns keeps none of these values: set the type first.
   /// Height of the column at `index`; 0 for one that the file gives none.
   double getColumnHeight(int index) const;
   void setColumnHeight(int index, double height);
@@ -97,10 +101,20 @@ class OdDbMText : public OdDbEntity {
   OdResult getGeomExtents(OdGeExtents3d& extents) const override;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  OdString fieldHostText() const override;
+  void recordMoved(const dxf::Record& before) override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 
  private:
   OdDbMTextMeasure measured() const;
+  OdDbMTextColumns columns() const;
+  void setColumns(const OdDbMTextColumns& columns);
+  OdString ownContents() const;
+  dxf::Record* trueContents() const;
+  OdDbMTextBackground background() const;
+  void setBackground(const OdDbMTextBackground& background);
+  void drawBackground(OdGiWorldDraw& draw, const OdDbMTextMeasure& size) const;
 };
 
 using OdDbMTextPtr = OdSmartPtr<OdDbMText>;

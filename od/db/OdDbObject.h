@@ -45,7 +45,7 @@ class OdDbObject : public OdGiDrawable {
   /// Takes the object out of the drawing, or back in while the database lives.
   void erase(bool erasing = true);
   bool isErased() const;
-  /// True when something of the object differs from the file, until the next save.
+  /// True when something of the object was changed since the file was read.
   bool isModified() const;
 
   /// The field that the extension dictionary holds under `name` ("TEXT"); null when there is none, or when
@@ -70,19 +70,17 @@ class OdDbObject : public OdGiDrawable {
   bool isPersistent() const override { return isDBRO(); }
 
  protected:
-  /// A new object of the file type `dxfName`, outside any database.
-  /// For objects of the database that the file has no record for.
-  OdDbObject();
-  explicit OdDbObject(const char* dxfName);
-  ~OdDbObject() override;
+  OdDbObject() = default;
 
-  friend class OdDbDatabase;
-  friend class OdDbObjectId;
   friend class OdDbDrawing;
+  friend class OdDbObjectId;
 
-  /// The file record. Throws `OdError(eNotInDatabase)` for one of the few objects that have none.
+  /// The file record. That of an object outside the database is made on first use. Throws
+  /// `OdError(eNotInDatabase)` for one of the few objects that have none.
   dxf::Record& record() const;
-  bool hasRecord() const { return m_record != nullptr; }
+  /// The groups that a new object of this class starts with.
+  virtual std::unique_ptr<dxf::Record> newRecord() const;
+  /// Lends `database` to an object outside it, for looking things up.
   void setDatabase(OdDbDatabase* database) { m_database = database; }
   /// Says that something changed that is to be saved.
   void touch();
@@ -92,18 +90,20 @@ class OdDbObject : public OdGiDrawable {
   /// The same for writing: asserts that it is allowed.
   OdDbGroupEditor edit(const OdDbSubclass& part);
 
+  /// The text that a field of this object stands for, as the file has it; empty for what has no text.
+  virtual OdString fieldHostText() const { return {}; }
   /// Called when the object's groups have been written anew in the manner of the file that it came into;
   /// `before` is the record as it was.
   virtual void recordMoved(const dxf::Record& before);
 
  private:
-  void close();
+  static OdSmartPtr<OdDbObject> open(OdDbStub& stub, OdDb::OpenMode mode);
 
   OdDbStub* m_stub = nullptr;
   OdDbDatabase* m_database = nullptr;
-  dxf::Record* m_record = nullptr;         ///< in the file's list, or `m_own`
-  std::unique_ptr<dxf::Record> m_own;      ///< of an object outside the database
-  OdDb::OpenMode m_mode = OdDb::kNotOpen;  ///< of an object inside
+  mutable dxf::Record* m_record = nullptr;     ///< in the file's list, or `m_own`
+  mutable std::unique_ptr<dxf::Record> m_own;  ///< of an object outside the database
+  OdDb::OpenMode m_mode = OdDb::kNotOpen;      ///< of an object inside
 };
 
 using OdDbObjectPtr = OdSmartPtr<OdDbObject>;

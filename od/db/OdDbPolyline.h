@@ -7,7 +7,7 @@ class OdDbPolyline : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbPolyline)
 
  public:
-  OdDbPolyline();
+  OdDbPolyline() = default;
 
   unsigned numVerts() const;
   OdGePoint2d getPointAt(unsigned index) const;
@@ -28,7 +28,8 @@ class OdDbPolyline : public OdDbEntity {
   OdResult getPlane(OdGePlane& plane) const override;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 };
 
 using OdDbPolylinePtr = OdSmartPtr<OdDbPolyline>;

@@ -6,12 +6,16 @@
 
 /// What a database knows of an object before anybody opens it. Ids point here.
 struct OdDbStub {
+  /// Which class a record of an unknown type gets.
+  enum Kind { kEntity, kObject };
+
   OdDbDatabase* database = nullptr;
   OdDbHandle handle;
-  bool internalHandle = false;    ///< the handle is not, or not only, this object's in the file
+  bool handleInFile = false;  ///< false for an internal number
+  Kind kind = kObject;
+  bool erased = false;
   dxf::Record* record = nullptr;  ///< null for what the file does not write down
-  OdDbStub* owner = nullptr;      ///< null for what owns itself, and for what the handle of its owner tells
+  OdDbStub* owner = nullptr;      ///< null where the handle in the record tells it
   std::vector<OdDbStub*> parts;   ///< attributes, vertices and the closing mark of a compound entity
   OdDbObjectPtr object;           ///< made when it is opened first
-  bool erased = false;
 };

@@ -11,11 +11,10 @@ class OdDbSymbolTableRecord : public OdDbObject {
   OdString name() const { return getName(); }
 
  protected:
-  explicit OdDbSymbolTableRecord(const char* dxfName) : OdDbObject(dxfName) {}
   OdDbSymbolTableRecord() = default;
 
   /// The marker of the record's own class.
-  virtual const OdDbSubclass& ownPart() const;
+  virtual const OdDbSubclass& ownPart() const = 0;
 };
 
 using OdDbSymbolTableRecordPtr = OdSmartPtr<OdDbSymbolTableRecord>;

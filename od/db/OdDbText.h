@@ -8,7 +8,7 @@ class OdDbText : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbText)
 
  public:
-  OdDbText();
+  OdDbText() = default;
 
   OdString textString() const;
   void setTextString(const OdString& text);
@@ -64,9 +64,12 @@ class OdDbText : public OdDbEntity {
   OdResult getGeomExtents(OdGeExtents3d& extents) const override;
 
  protected:
-  explicit OdDbText(const char* dxfName);
+  OdString fieldHostText() const override { return textString(); }
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  /// What is drawn: of an attribute definition its tag.
+  virtual OdString shownText() const { return textString(); }
 
   /// The part of the record, and the code in it, that hold the vertical mode.
   struct VerticalGroup {

@@ -9,7 +9,7 @@ class OdDbTextStyleTableRecord : public OdDbSymbolTableRecord {
   ODRX_DECLARE_MEMBERS(OdDbTextStyleTableRecord)
 
  public:
-  OdDbTextStyleTableRecord();
+  OdDbTextStyleTableRecord() = default;
 
   /// Fixed height; 0 leaves it to each text.
   double textSize() const;
@@ -39,6 +39,7 @@ class OdDbTextStyleTableRecord : public OdDbSymbolTableRecord {
   void getTextStyle(OdGiTextStyle& style) const;
 
  protected:
+  std::unique_ptr<dxf::Record> newRecord() const override;
   const OdDbSubclass& ownPart() const override;
 };
 

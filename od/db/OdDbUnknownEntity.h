@@ -7,7 +7,7 @@ class OdDbUnknownEntity : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbUnknownEntity)
 
  public:
-  OdDbUnknownEntity();
+  OdDbUnknownEntity() = default;
 
   /// The name of its kind in the file.
   OdString originalDxfName() const;

@@ -7,7 +7,7 @@ class OdDbViewport : public OdDbEntity {
   ODRX_DECLARE_MEMBERS(OdDbViewport)
 
  public:
-  OdDbViewport();
+  OdDbViewport() = default;
 
   /// 1 is the paper itself.
   int number() const;
@@ -25,7 +25,8 @@ class OdDbViewport : public OdDbEntity {
   double twistAngle() const;
 
  protected:
-  bool drawGeometry(OdGiWorldDraw& draw) const override;
+  void drawGeometry(OdGiWorldDraw& draw) const override;
+  std::unique_ptr<dxf::Record> newRecord() const override;
 };
 
 using OdDbViewportPtr = OdSmartPtr<OdDbViewport>;

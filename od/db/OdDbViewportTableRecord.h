@@ -9,7 +9,7 @@ class OdDbViewportTableRecord : public OdDbSymbolTableRecord {
   ODRX_DECLARE_MEMBERS(OdDbViewportTableRecord)
 
  public:
-  OdDbViewportTableRecord();
+  OdDbViewportTableRecord() = default;
 
   /// Centre of the view in its own plane.
   OdGePoint2d centerPoint() const;
@@ -23,6 +23,7 @@ class OdDbViewportTableRecord : public OdDbSymbolTableRecord {
   double viewTwist() const;
 
  protected:
+  std::unique_ptr<dxf::Record> newRecord() const override;
   const OdDbSubclass& ownPart() const override;
 };
 

@@ -1,0 +1,108 @@
+#include "od/db/block_drawing.h"
+
+#include "od/db/OdDbAttribute.h"
+#include "od/db/OdDbAttributeDefinition.h"
+#include "od/db/OdDbBlockTableRecord.h"
+#include "od/db/OdDbDictionary.h"
+#include "od/db/OdDbDimension.h"
+#include "od/db/OdGiContextForDbDatabase.h"
+#include "od/gi/OdGiContext.h"
+
+void OdDbBlockDrawing::draw(const OdDbBlockReference& reference) {
+  OdSmartPtr<OdDbBlockReference> self(const_cast<OdDbBlockReference*>(&reference));
+  enter(reference.blockTableRecord(), self, m_draw.geometry().traits());
+  run();
+}
+
+void OdDbBlockDrawing::drawBlock(OdDbObjectId block) {
+  enter(block, nullptr, m_draw.geometry().traits());
+  run();
+}
+
+void OdDbBlockDrawing::report(const OdString& block) const {
+  if (const auto* context = dynamic_cast<const OdGiContextForDbDatabase*>(&m_draw.context()))
+    context->report(u"Block " + block + u" refers to itself");
+}
+
+/// Begins a pass over a block; the traits in force are those of the reference.
+void OdDbBlockDrawing::enter(OdDbObjectId id, OdSmartPtr<OdDbBlockReference> reference,
+                             const OdGiSubEntityTraits& traitsOutside) {
+  const auto block = odOpen<OdDbBlockTableRecord>(id);
+  if (!block) {
+    if (reference) drawAttributes(*reference);
+    m_draw.geometry().traits() = traitsOutside;
+    return;
+  }
+  if (m_open.contains(id)) {
+    report(block->getName());
+    m_draw.geometry().traits() = traitsOutside;
+    return;
+  }
+  if (reference) drawAttributes(*reference);
+  const OdGeMatrix3d toOutside = reference ? reference->blockTransform() : OdGeMatrix3d();
+  m_draw.geometry().pushModelTransform(toOutside);
+  m_open.insert(id);
+  m_frames.push_back({.block = block,
+                      .entities = block->entities(),
+                      .reference = reference,
+                      .traitsOfReference = m_draw.geometry().traits(),
+                      .traitsOutside = traitsOutside});
+}
+
+void OdDbBlockDrawing::run() {
+  while (!m_frames.empty()) step();
+}
+
+void OdDbBlockDrawing::step() {
+  Frame& frame = m_frames.back();
+  if (frame.next == frame.entities.size()) return leave();
+  const OdDbEntityPtr entity = odOpen<OdDbEntity>(frame.entities[frame.next++]);
+  m_draw.geometry().traits() = frame.traitsOfReference;
+  if (entity) drawEntity(*entity);
+}
+
+/// Ends a pass: the next cell of an array follows, or what lies around the reference.
+void OdDbBlockDrawing::leave() {
+  Frame& frame = m_frames.back();
+  m_draw.geometry().popModelTransform();
+  const int columns = frame.reference ? frame.reference->columns() : 1;
+  const int cells = frame.reference ? columns * frame.reference->rows() : 1;
+  if (++frame.cell < cells) {
+    frame.next = 0;
+    const int column = frame.cell % columns, row = frame.cell / columns;
+    m_draw.geometry().pushModelTransform(frame.reference->blockTransform(column, row));
+    return;
+  }
+  m_draw.geometry().traits() = frame.traitsOutside;
+  m_open.erase(frame.block->objectId());
+  m_frames.pop_back();
+}
+
+void OdDbBlockDrawing::drawEntity(OdDbEntity& entity) {
+  if (const auto definition = odCast<OdDbAttributeDefinition>(&entity)) {
+    // Other definitions are drawn by the attributes that fill them.
+    if (!definition->isConstant()) return;
+  }
+  const auto reference = odCast<OdDbBlockReference>(&entity);
+  const auto dimension = odCast<OdDbDimension>(&entity);
+  if (!reference && !dimension) {
+    m_draw.drawInBlock(entity);
+    return;
+  }
+  if (entity.visibility() != OdDb::kVisible) return;
+  OdGiSubEntityTraits& traits = m_draw.geometry().traits();
+  const OdGiSubEntityTraits outside = traits;
+  traits = OdGiSubEntityTraits::insideBlock(outside);
+  entity.setAttributes(traits);
+  if (!m_draw.context().layerIsVisible(traits.layer()))
+    traits = outside;
+  else
+    enter(reference ? reference->blockTableRecord() : dimension->dimBlockId(), reference, outside);
+}
+
+void OdDbBlockDrawing::drawAttributes(const OdDbBlockReference& reference) {
+  for (const OdDbObjectId& id : reference.attributes()) {
+    const auto attribute = odOpen<OdDbAttribute>(id);
+    if (attribute) m_draw.drawInBlock(*attribute);
+  }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "od/db/OdDbStub.h"
+#include "od/field/OdDbField.h"
+
+class OdDbDrawing;
+
+/// The field that `stub`, a FIELD object, holds, with its children and theirs. A child that is missing, or
+/// that holds itself, becomes an empty field, so that the numbers of the others stay right.
+OdDbFieldPtr odReadField(OdDbDrawing& drawing, OdDbStub& stub);
+
+/// True when the FIELD `record` was made for another text than `hostText`: it keeps a checksum of it.
+bool odFieldIsStale(const dxf::Record& record, const OdString& hostText);
+
+/// The sum that files keep of a text: each unit times its place, counted from 1.
+double odTextChecksum(std::u16string_view text);

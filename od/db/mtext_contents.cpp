@@ -1,0 +1,50 @@
+#include "od/db/OdDbDatabase.h"
+#include "od/db/OdDbDictionary.h"
+#include "od/db/OdDbDrawing.h"
+#include "od/db/OdDbMText.h"
+#include "od/db/field_reader.h"
+#include "od/db/mtext_subclass.h"
+#include "od/dxf/chunked_text.h"
+
+// The text itself. When a newer drawing is saved for an old program the entity gets a simplified text, and
+// the true one goes into a record of the extension dictionary, with a checksum of the simplified one.
+
+namespace {
+
+const OdDbSubclass& kMText = odMTextSubclass();
+constexpr dxf::ChunkCodes kAllInOnes{1, 1};
+
+}  // namespace
+
+OdString OdDbMText::ownContents() const { return dxf::read_chunked_text(record(), groups(kMText).range()); }
+
+/// The record with the true text; null when there is none or the entity's text was changed without it.
+dxf::Record* OdDbMText::trueContents() const {
+  const auto extension = odOpen<OdDbDictionary>(extensionDictionary());
+  const OdDbObjectId id = extension ? extension->getAt(u"ACAD_MTEXT_RT") : OdDbObjectId();
+  dxf::Record* kept = id.isNull() ? nullptr : id.stub()->record;
+  if (!kept) return nullptr;
+  const auto sum = kept->find(40, kept->body());
+  return sum && kept->get_double(*sum) == odTextChecksum(ownContents().str()) ? kept : nullptr;
+}
+
+OdString OdDbMText::contents() const {
+  if (const dxf::Record* kept = trueContents())
+    return dxf::read_chunked_text(*kept, kept->body(), kAllInOnes);
+  return ownContents();
+}
+
+void OdDbMText::setContents(const OdString& contents) {
+  assertWriteEnabled();
+  const std::u16string written = record().manner().codec.escape_missing(contents.str());
+  if (this->contents() == OdString(written)) return;
+  dxf::Record* kept = trueContents();
+  const OdDbGroupEditor text = edit(kMText);
+  dxf::write_chunked_text(record(), text.range(), text.place(1), contents.str());
+  touch();
+  // The checksum lays the old true text aside, unless both texts happen to have the same one.
+  if (kept && trueContents() == kept)
+    dxf::write_chunked_text(*kept, kept->body(), kept->body().end, contents.str(), kAllInOnes);
+}
+
+OdString OdDbMText::fieldHostText() const { return ownContents(); }
