@@ -41,7 +41,7 @@ void draw_dimensions(Sheet& sheet) {
   measure_across(sheet, 0, 3360, -400, u"3360");
   measure_across(sheet, 3360, 9460, -400, u"6100");
   measure_across(sheet, 9460, 12000, -400, u"2540");
-  measure_upwards(sheet, 0, 8500, -600, u"8500%%p5");
+  measure_upwards(sheet, 0, 8500, 12500, u"8500%%p5");
 }
 
 }  // namespace samples

@@ -48,7 +48,7 @@ void draw_furniture(Sheet& sheet) {
   draw_meeting_table(sheet);
   draw_kitchen(sheet);
   draw_shelves(sheet);
-  for (const Position& at : {in_plan(650, 650), in_plan(9850, 650), in_plan(3750, 3300), in_plan(650, 5500)})
+  for (const Position& at : {in_plan(2950, 700), in_plan(11400, 650), in_plan(9050, 650), in_plan(650, 5500)})
     sheet.insert({.block = "PLANT", .at = at});
 }
 

@@ -62,12 +62,12 @@ void write_notes(Sheet& sheet) {
                     .width = 9200,
                     .columns = {.count = 2, .width = 4450, .gutter = 300, .height = 2700}});
   sheet.paragraphs({.text = u"{\\fArial|b1|i0|c0|p34;\\C1;PRELIMINARY}\\P\\H0.5x;not for construction",
-                    .at = in_plan(4850, 7400),
+                    .at = {17600, 4500},
                     .height = 250,
                     .attachment = 5,
                     .rotation = 30});
   sheet.paragraphs({.text = u"Street side\\P\\H0.7x;public footpath, keep free",
-                    .at = in_plan(-1000, 4250),
+                    .at = in_plan(-300, 4400),
                     .height = 150,
                     .attachment = 8,
                     .style = u"Lettering",
