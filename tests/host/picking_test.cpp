@@ -23,8 +23,6 @@ class FixedBox : public OdDbMTextLayout {
     return {.width = 40, .height = 10, .minimum = {0, -10}, .maximum = {40, 0}};
   }
   void draw(const OdDbMText&, OdGiWorldDraw&) override {}
-}; }
-  void draw(const OdDbMText&, OdGiWorldDraw&) const override {}
 };
 
 class Picking : public testing::Test {
