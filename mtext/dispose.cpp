@@ -62,6 +62,9 @@ void disposer::add_line() {
   }
   m_baseline = m_top - pitch.rise;
   double next_top = m_top - pitch.pitch;
+  // Where the line ends in the column it began in. Deliberately not measured anew when it moves to the next
+  // one: a column that holds this line alone is as high as if it stood below the last, and attachments go by
+  // that.
   const double line_bottom = by_ink() ? m_baseline - size.ink_bottom : next_top;
 
   if (needs_next_column(line_bottom)) {
