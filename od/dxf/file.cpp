@@ -19,6 +19,14 @@ bool opens_a_drawing(const Group& group) {
   return group.code() == 0 && (value == "SECTION" || value == "EOF");
 }
 
+// Only the mark behind the last section may be the last line without a line end: anything else was longer
+// once.
+bool is_cut_off(const Group& last, const Manner& manner) {
+  const bool is_whole =
+      manner.form == Form::binary || last.bytes().ends_with('\n') || last.bytes().ends_with('\r');
+  return !is_whole && !(last.code() == 0 && trim(last.value()) == "ENDSEC");
+}
+
 // A text line needs its end as soon as another one follows it.
 void append_group(const Group& group, const std::string& line_end, std::string& bytes) {
   if (!bytes.empty() && !line_end.empty() && bytes.back() != '\n') {
@@ -58,6 +66,8 @@ void File::read_records() {
   if (!last) throw Error(name_, "the file holds no drawing");
   if (!ended && !builder.open_section().empty())
     throw error_at(name_, *bytes_, *last, "the drawing ends in the middle of " + builder.open_section());
+  if (!ended && is_cut_off(*last, *manner))
+    throw error_at(name_, *bytes_, *last, "the drawing ends in the middle of a group");
   prefix_ = all.substr(0, reader->head_size());
   suffix_ = all.substr(reader->position());
   settle_manner(records_, *manner);

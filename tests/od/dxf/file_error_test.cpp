@@ -39,6 +39,15 @@ TEST(FileError, a_group_without_a_value_is_refused) {
             "plan.dxf, line 5: the drawing ends in the middle of a group.");
 }
 
+TEST(FileError, a_mark_that_is_cut_short_is_refused) {
+  const std::string section = "0\nSECTION\n2\nENTITIES\n0\nENDSEC\n";
+  EXPECT_EQ(message_of(section + "0\nEO"), "plan.dxf, line 7: the drawing ends in the middle of a group.");
+  EXPECT_EQ(message_of(section + "0\nSECT"), "plan.dxf, line 7: the drawing ends in the middle of a group.");
+  EXPECT_EQ(message_of("0\nSECTION\n2\nENTITIES\n0\nENDSE"),
+            "plan.dxf, line 5: the drawing ends in the middle of the section ENTITIES.");
+  EXPECT_EQ(message_of("0\nSECTION\n2\nENTITIES\n0\nENDSEC"), "no error");
+}
+
 TEST(FileError, an_end_within_a_section_is_refused) {
   EXPECT_EQ(message_of("0\nSECTION\n2\nENTITIES\n0\nLINE\n8\n0\n"),
             "plan.dxf, line 7: the drawing ends in the middle of the section ENTITIES.");
