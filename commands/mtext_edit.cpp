@@ -1,0 +1,72 @@
+#include "commands/mtext_edit.h"
+
+#include "commands/session_loop.h"
+#include "editor/smart_edit.h"
+#include "host/application.h"
+#include "host/exports.h"
+#include "host/document.h"
+#include "host/prompt.h"
+#include "host/selection_set.h"
+#include "host/translate.h"
+#include "od/base/unicode.h"
+#include "od/db/OdDbLayerTableRecord.h"
+
+namespace {
+
+constexpr int kSelectPrompt = 1035;
+constexpr int kNothingSelected = 1036;
+constexpr int kNotMText = 1037;
+
+bool is_on_locked_layer(const OdDbObjectId& id) {
+  const auto entity = odCast<OdDbEntity>(id.openObject());
+  const OdDbObjectId layer = entity ? entity->layerId() : OdDbObjectId();
+  const auto record = layer ? odCast<OdDbLayerTableRecord>(layer.openObject()) : OdDbLayerTableRecordPtr();
+  return record && record->isLocked();
+}
+
+}  // namespace
+
+int editMText(OdDbMTextPtr text, HostDocument& document) {
+  smart_edit session(document);
+  session.beginMTextEdit(text);
+  const int result = wait_for_session(document.prompt(), session);
+  const bool accepted = session.finishEdit(result == kSessionAccepted, /*force=*/session.isCompact());
+  return accepted ? kCommandDone : kCommandCancelled;
+}
+
+int editMTextById(const OdDbObjectId& id, HostDocument& document) {
+  const auto text = odCast<OdDbMText>(id.openObject(OdDb::kForWrite));
+  if (text) return editMText(text, document);
+  document.prompt().refuse(host::resource_string(kNotMText));
+  return kCommandDone;
+}
+
+int CMTextEditCmd::run() {
+  setStatus(kCommandRunning);
+  HostDocument* document = host::application() ? host::application()->activeDocument() : nullptr;
+  if (!document) return setStatus(kCommandDone);
+  try {
+    return setStatus(edit(*document));
+  } catch (const OdError& error) {
+    document->prompt().refuse(odToUtf16(error.what()));
+    return setStatus(kCommandDone);
+  }
+}
+
+int CMTextEditCmd::edit(HostDocument& document) {
+  HostSelectionSet selected = document.pickFirst();
+  if (selected.isEmpty()) {
+    const int answer = document.prompt().select(host::resource_string(kSelectPrompt), kSelectOne, selected);
+    if (answer == kAnswerCancel) return kCommandCancelled;
+  }
+  if (selected.isEmpty()) {
+    document.prompt().refuse(host::resource_string(kNothingSelected));
+    return kCommandDone;
+  }
+  const OdDbObjectId id = selected.ids().front();
+  if (is_on_locked_layer(id)) {
+    document.prompt().refuse(Supp_Translate(u"Layer locked"));
+    return kCommandDone;
+  }
+  return editMTextById(id, document);
+}
