@@ -70,8 +70,7 @@ void OdDbGroupEditor::setFlag(int code, int bit, bool on) {
   setInteger(code, on ? old | bit : old & ~bit, 0);
 }
 
-void OdDbGroupEditor::setString(int code, const OdString& text,
-                                std::optional<std::u16string_view> absent) {
+void OdDbGroupEditor::setString(int code, const OdString& text, std::optional<std::u16string_view> absent) {
   const std::u16string_view value = text.str();
   const auto at = m_target.find(code, m_range);
   if (at && m_target.get_string(*at) == m_target.manner().codec.escape_missing(value)) return;

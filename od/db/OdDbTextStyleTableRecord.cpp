@@ -96,14 +96,13 @@ void OdDbTextStyleTableRecord::setFont(const OdString& typeface, bool bold, bool
     target.insert_string(target.size(), 1000, u"");
     target.insert_int(target.size(), 1071, 0);
   }
-  FontGroups found(target);
   const std::size_t begin = target.xdata(u"ACAD")->begin;
-  if (!found.typeface) target.insert_string(begin, 1000, u"");
-  found = FontGroups(target);
-  if (!found.bits) target.insert_int(*found.typeface + 1, 1071, 0);
-  found = FontGroups(target);
-  if (target.get_string(*found.typeface) != typeface.str()) target.set_string(*found.typeface, typeface.str());
-  if (target.get_int(*found.bits) != bits) target.set_int(*found.bits, bits);
+  if (!FontGroups(target).typeface) target.insert_string(begin, 1000, u"");
+  const std::size_t name = FontGroups(target).typeface.value_or(begin);
+  if (!FontGroups(target).bits) target.insert_int(name + 1, 1071, 0);
+  const std::size_t word = FontGroups(target).bits.value_or(name + 1);
+  if (target.get_string(name) != typeface.str()) target.set_string(name, typeface.str());
+  if (target.get_int(word) != bits) target.set_int(word, bits);
   touch();
 }
 
