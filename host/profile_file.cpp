@@ -1,5 +1,6 @@
 #include "host/profile_file.h"
 
+#include <algorithm>
 #include <fstream>
 #include <stdexcept>
 
@@ -7,32 +8,32 @@
 
 namespace {
 
-/// A line cannot hold its own end: a text's line feeds, carriage returns and backslashes are escaped.
+/// Signs that would be taken for the form of the file, and the letter that stands for each behind a
+/// backslash.
+constexpr std::pair<char, char> kEscapes[] = {{'\n', 'n'}, {'\r', 'r'}, {'\\', '\\'}, {'=', 'e'}, {'[', 'o'}};
+
 std::string escaped(std::u16string_view text) {
   std::string result;
   for (const char unit : odToUtf8(text)) {
-    if (unit == '\n') {
-      result += "\\n";
-    } else if (unit == '\r') {
-      result += "\\r";
-    } else if (unit == '\\') {
-      result += "\\\\";
-    } else {
-      result += unit;
-    }
+    const auto* escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                      [unit](const auto& pair) { return pair.first == unit; });
+    if (escape != std::end(kEscapes)) result += '\\';
+    result += escape == std::end(kEscapes) ? unit : escape->second;
   }
   return result;
+}
+
+char meant_by(char letter) {
+  const auto* escape = std::find_if(std::begin(kEscapes), std::end(kEscapes),
+                                    [letter](const auto& pair) { return pair.second == letter; });
+  return escape == std::end(kEscapes) ? letter : escape->first;
 }
 
 std::u16string unescaped(std::string_view text) {
   std::string result;
   for (std::size_t at = 0; at < text.size(); ++at) {
-    if (text[at] != '\\' || at + 1 == text.size()) {
-      result += text[at];
-      continue;
-    }
-    ++at;
-    result += text[at] == 'n' ? '\n' : text[at] == 'r' ? '\r' : text[at];
+    const bool is_escape = text[at] == '\\' && at + 1 < text.size();
+    result += is_escape ? meant_by(text[++at]) : text[at];
   }
   return odToUtf16(result);
 }

@@ -112,7 +112,7 @@ TEST_F(Prompt, characters_and_enter_in_the_view_make_a_typed_line) {
   for (const char16_t unit : std::u16string_view(u"7,,8")) input.message({.number = WM_CHAR, .code = unit});
   input.key(VK_BACK);
   input.key(VK_BACK);
-  for (const char16_t unit : std::u16string_view(u",9")) input.message({.number = WM_CHAR, .code = unit});
+  for (const char16_t unit : std::u16string_view(u"9")) input.message({.number = WM_CHAR, .code = unit});
   input.key(VK_RETURN);
   EXPECT_EQ(prompt.getPoint({.prompt = u"Where"}, point), kAnswerValue);
   EXPECT_EQ(point, (OdGePoint3d{7, 9, 0}));
