@@ -13,6 +13,7 @@
 #include "od/db/OdDbBlockReference.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbMText.h"
+#include "od/db/OdDbSymbolTable.h"
 #include "od/db/OdDbText.h"
 
 namespace {

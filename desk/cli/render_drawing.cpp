@@ -1,5 +1,7 @@
 #include "desk/cli/render_drawing.h"
 
+#include <QPainter>
+
 #include "desk/cli/exit_code.h"
 #include "desk/cli/picture_file.h"
 #include "desk/document/drawing_file.h"
@@ -9,7 +11,7 @@
 
 namespace {
 
-OdGsView viewOf(const OdDbDatabase& database, const RenderOptions& options, const PaintColors& colors) {
+OdGsView viewOf(OdDbDatabase& database, const RenderOptions& options, const PaintColors& colors) {
   OdGsView view;
   view.setDeviceRect({0, 0, double(options.size.width()), double(options.size.height())});
   view.setBackgroundColor(colors.backgroundColor());

@@ -1,5 +1,6 @@
 #include "desk/document/desk.h"
 
+#include <memory>
 #include <utility>
 
 #include "desk/document/drawing_file.h"
@@ -8,15 +9,17 @@
 #include "host/events.h"
 
 void Desk::open(const std::filesystem::path& file) {
-  OdDbDatabasePtr drawing;
-  workOn(u"Opening " + textOf(file.filename()), [&] { drawing = openDrawing(file); });
-  m_next = drawing;
+  const auto drawing = std::make_shared<OdDbDatabasePtr>();
+  workOn(u"Opening " + textOf(file.filename()), Leaving::allowed,
+         [drawing, file] { *drawing = openDrawing(file); });
+  m_next = *drawing;
   if (m_loop) m_loop->stop();
 }
 
 void Desk::save(const std::filesystem::path& target) {
   OdDbDatabase& database = document().database();
-  workOn(u"Saving " + textOf(target.filename()), [&] { database.writeFile(target); });
+  workOn(u"Saving " + textOf(target.filename()), Leaving::forbidden,
+         [&database, target] { database.writeFile(target); });
 }
 
 std::filesystem::path Desk::file() { return pathOf(document().database().getFilename().str()); }

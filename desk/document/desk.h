@@ -44,8 +44,11 @@ class Desk {
   int failures() const { return m_failures; }
 
  protected:
-  /// Does something that takes its time; a window shows progress meanwhile. Passes exceptions on.
-  virtual void workOn(std::u16string_view what, const std::function<void()>& work) = 0;
+  /// Whether the user may leave a long work before its end.
+  enum class Leaving { allowed, forbidden };
+  /// Does something that takes its time; a window shows progress meanwhile. Passes exceptions on, and throws
+  /// OdError when the user leaves: `work` then goes on by itself, so it has to own what it touches.
+  virtual void workOn(std::u16string_view what, Leaving leaving, std::function<void()> work) = 0;
   /// Puts the drawing on the desk in the place of the one before.
   virtual void show(OdDbDatabasePtr drawing) = 0;
 

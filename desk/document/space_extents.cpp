@@ -5,11 +5,11 @@
 #include "od/db/OdDbEntity.h"
 #include "od/db/OdGiContextForDbDatabase.h"
 
-OdGeExtents3d spaceExtents(const OdDbDatabase& database) {
+OdGeExtents3d spaceExtents(OdDbDatabase& database) {
   OdGeExtents3d all;
   const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
   if (!space) return all;
-  const OdGiContextForDbDatabase context(database);
+  const OdGiContextForDbDatabase context(&database);
   for (const OdDbObjectId& id : space->entities()) {
     const auto entity = odCast<OdDbEntity>(id.openObject());
     OdGeExtents3d box;

@@ -6,4 +6,4 @@ class OdDbDatabase;
 
 /// The box around what is drawn in the active space: entities that are visible, on layers that are shown.
 /// Empty when there is nothing.
-OdGeExtents3d spaceExtents(const OdDbDatabase& database);
+OdGeExtents3d spaceExtents(OdDbDatabase& database);

@@ -10,7 +10,7 @@
 
 namespace {
 
-std::vector<OdDbObjectId> entitiesOf(const OdDbDatabase& database) {
+std::vector<OdDbObjectId> entitiesOf(OdDbDatabase& database) {
   const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
   return space ? space->entities() : std::vector<OdDbObjectId>();
 }
@@ -36,7 +36,7 @@ bool DrawingPictures::refresh(const OdGsView& view) {
     m_order = std::move(present);
     changed = true;
   }
-  const OdGiContextForDbDatabase context(m_database);
+  const OdGiContextForDbDatabase context(&m_database);
   PictureRecorder recorder(m_frame, context);
   for (const OdDbObjectId& id : m_order) {
     if (m_pictures.contains(id)) continue;

@@ -14,7 +14,7 @@ class OdDbDatabase;
 class DrawingPictures {
  public:
   /// The database has to outlive the pictures.
-  explicit DrawingPictures(const OdDbDatabase& database) : m_database(database) {}
+  explicit DrawingPictures(OdDbDatabase& database) : m_database(database) {}
 
   /// The picture of an entity is out of date.
   void invalidate(const OdDbObjectId& id) { m_pictures.erase(id); }
@@ -32,7 +32,7 @@ class DrawingPictures {
  private:
   void forget(const std::vector<OdDbObjectId>& present);
 
-  const OdDbDatabase& m_database;
+  OdDbDatabase& m_database;
   PictureFrame m_frame;
   std::unordered_map<OdDbObjectId, Picture> m_pictures;
   std::vector<OdDbObjectId> m_order;

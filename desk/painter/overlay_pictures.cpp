@@ -7,16 +7,11 @@
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdGiContextForDbDatabase.h"
 
-OverlayPictures::Camera OverlayPictures::cameraOf(const OdGsView& view) {
-  return {view.position(),    view.target(),     view.upVector(),       view.fieldWidth(),
-          view.fieldHeight(), view.deviceRect(), view.backgroundColor()};
-}
-
-void OverlayPictures::refresh(HostViewOverlay& overlay, const OdDbDatabase& database,
+void OverlayPictures::refresh(HostViewOverlay& overlay, OdDbDatabase& database,
                               const PictureFrame& frame, const OdGsView& view) {
-  const bool moved = std::exchange(m_camera, cameraOf(view)) != m_camera;
+  const bool moved = std::exchange(m_camera, Camera::of(view)) != m_camera;
   const std::vector<HostViewOverlay::Layer> layers = overlay.layers();
-  const OdGiContextForDbDatabase context(database);
+  const OdGiContextForDbDatabase context(&database);
   PictureRecorder recorder(frame, context);
   std::unordered_map<const OdGiDrawable*, Picture> kept;
   m_order.clear();

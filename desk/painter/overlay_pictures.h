@@ -3,6 +3,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "desk/painter/camera.h"
 #include "desk/painter/picture.h"
 #include "desk/painter/picture_frame.h"
 
@@ -15,22 +16,12 @@ class OdGiDrawable;
 class OverlayPictures {
  public:
   /// Makes what is out of date and marks the overlay as painted. Pictures are in `frame`.
-  void refresh(HostViewOverlay& overlay, const OdDbDatabase& database, const PictureFrame& frame,
+  void refresh(HostViewOverlay& overlay, OdDbDatabase& database, const PictureFrame& frame,
                const OdGsView& view);
   /// From the bottom to the top.
   std::vector<const Picture*> pictures() const;
 
  private:
-  struct Camera {
-    OdGePoint3d position, target;
-    OdGeVector3d up;
-    double width = 0, height = 0;
-    OdGsDeviceRect rect;
-    OdCmEntityColor background;
-    friend bool operator==(const Camera&, const Camera&) = default;
-  };
-  static Camera cameraOf(const OdGsView& view);
-
   Camera m_camera;
   std::unordered_map<const OdGiDrawable*, Picture> m_pictures;
   std::vector<const OdGiDrawable*> m_order;

@@ -42,7 +42,7 @@ std::optional<std::filesystem::path> ScriptDesk::askFileToSave(const std::filesy
                  {.prompt = u"Enter name to save under", .default_answer = textOf(proposed)});
 }
 
-void ScriptDesk::workOn(std::u16string_view, const std::function<void()>& work) { work(); }
+void ScriptDesk::workOn(std::u16string_view, Leaving, std::function<void()> work) { work(); }
 
 void ScriptDesk::show(OdDbDatabasePtr drawing) {
   m_document =

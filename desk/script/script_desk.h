@@ -33,7 +33,7 @@ class ScriptDesk : public Desk {
   const ScriptSource& source() const { return m_source; }
 
  protected:
-  void workOn(std::u16string_view what, const std::function<void()>& work) override;
+  void workOn(std::u16string_view what, Leaving leaving, std::function<void()> work) override;
   void show(OdDbDatabasePtr drawing) override;
 
  private:

@@ -5,20 +5,24 @@
 
 namespace {
 
-const HostWindowMessage* mouseMove(const HostInput& input) {
+bool isMove(const HostInput& input) {
   const auto* message = std::get_if<HostWindowMessage>(&input);
-  return message && message->number == WM_MOUSEMOVE ? message : nullptr;
+  return message && (message->number == WM_MOUSEMOVE || message->number == WM_SETCURSOR);
 }
 
 }  // namespace
 
+void QtInputSource::wait() {
+  m_on_idle();
+  if (!m_inputs.empty() || m_ended) return;
+  QEventLoop loop;
+  QEventLoop* const outer = std::exchange(m_loop, &loop);
+  loop.exec();
+  m_loop = outer;
+}
+
 HostInput QtInputSource::next() {
-  while (m_inputs.empty() && !m_ended) {
-    QEventLoop loop;
-    QEventLoop* const outer = std::exchange(m_loop, &loop);
-    loop.exec();
-    m_loop = outer;
-  }
+  while (m_inputs.empty() && !m_ended) wait();
   if (m_ended) return HostEndOfInput{};
   HostInput input = std::move(m_inputs.front());
   m_inputs.pop_front();
@@ -27,14 +31,17 @@ HostInput QtInputSource::next() {
   return input;
 }
 
-bool QtInputSource::replacesMove(const HostInput& input) const {
-  return !m_inputs.empty() && mouseMove(input) && mouseMove(m_inputs.back());
-}
-
 void QtInputSource::push(HostInput input) {
-  if (replacesMove(input)) m_inputs.pop_back();
   m_inputs.push_back(std::move(input));
   if (m_loop) m_loop->quit();
+}
+
+void QtInputSource::pushMove(HostWindowMessage move) {
+  while (!m_inputs.empty() && isMove(m_inputs.back())) m_inputs.pop_back();
+  HostWindowMessage shape = move;
+  shape.number = WM_SETCURSOR;
+  push(shape);
+  push(move);
 }
 
 void QtInputSource::end() {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <deque>
+#include <functional>
 
 #include "host/input.h"
 #include "host/key_state.h"
@@ -17,18 +18,24 @@ class QtInputSource : public HostInputSource {
 
   HostInput next() override;
 
-  /// Adds an input behind those that wait. Mouse moves that nobody has seen yet are replaced by the newest.
+  /// Adds an input behind those that wait.
   void push(HostInput input);
+  /// Adds a moved cursor: the question for its shape and the move. A move that nobody has worked on yet is
+  /// replaced by it.
+  void pushMove(HostWindowMessage move);
   /// The window is gone: from now on there is nothing but the end of the input.
   void end();
-  /// Whether a prompt waits in the event loop now.
-  bool isWaiting() const { return m_loop != nullptr; }
+  /// Whether there are inputs that nobody has worked on yet.
+  bool hasInputs() const { return !m_inputs.empty(); }
+  /// Is called each time when all inputs are worked on and a prompt is going to wait. It may push.
+  void setOnIdle(std::function<void()> on_idle) { m_on_idle = std::move(on_idle); }
 
  private:
-  bool replacesMove(const HostInput& input) const;
+  void wait();
 
   HostHeldKeys& m_keys;
   std::deque<HostInput> m_inputs;
+  std::function<void()> m_on_idle = [] {};
   QEventLoop* m_loop = nullptr;
   bool m_ended = false;
 };

@@ -1,0 +1,55 @@
+#include <QApplication>
+#include <cstdio>
+#include <exception>
+#include <iostream>
+
+#include "desk/cli/arguments.h"
+#include "desk/cli/exit_code.h"
+#include "desk/cli/list_texts.h"
+#include "desk/cli/load_module.h"
+#include "desk/script/script_reader.h"
+#include "desk/window/run_window.h"
+
+namespace {
+
+/// What each way to call the program does, and the surroundings that it needs.
+struct Performer {
+  int& count;
+  char** words;
+
+  int operator()(const CalledOff& off) const {
+    (off.exit_code == kExitDone ? std::cout : std::cerr) << off.text;
+    return off.exit_code;
+  }
+  int operator()(const TextOptions& options) const { return listTexts(options.drawing, options.json); }
+  int operator()(const RunOptions& options) const {
+    if (const std::string error = loadModule(); !error.empty()) std::cerr << error << '\n';
+    return runScript(options);
+  }
+  int operator()(const RenderOptions& options) const {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(count, words);
+    return renderDrawing(options);
+  }
+  int operator()(const WindowOptions& options) const {
+    QApplication::setApplicationName("scribe");
+    const QApplication application(count, words);
+    QApplication::setQuitOnLastWindowClosed(false);
+    const std::string moduleError = loadModule();
+    return runWindow(options.drawing, moduleError);
+  }
+};
+
+}  // namespace
+
+int main(int count, char** words) {
+  try {
+    return std::visit(Performer{count, words}, readArguments(count, words));
+  } catch (const ScriptError& error) {
+    std::cerr << error.what() << '\n';
+    return kExitRefused;
+  } catch (const std::exception& error) {
+    std::cerr << error.what() << '\n';
+    return kExitFileError;
+  }
+}

@@ -1,0 +1,42 @@
+"""Pictures of the display, looked at as arrays of pixels."""
+
+import subprocess
+
+from display import needed
+
+
+class Picture:
+    """A picture of width x height pixels of three bytes."""
+
+    def __init__(self, ppm):
+        kind, size, depth, self.pixels = ppm.split(b"\n", 3)
+        assert kind == b"P6" and depth == b"255", "the picture is no binary pixmap"
+        self.width, self.height = (int(number) for number in size.split())
+
+    def at(self, x, y):
+        start = (y * self.width + x) * 3
+        return tuple(self.pixels[start:start + 3])
+
+    def row(self, y, left, right):
+        return self.pixels[(y * self.width + left) * 3:(y * self.width + right) * 3]
+
+    def differences(self, other, box):
+        """How many pixels differ within box = (left, top, right, bottom)."""
+        left, top, right, bottom = box
+        count = 0
+        for y in range(top, bottom):
+            mine, theirs = self.row(y, left, right), other.row(y, left, right)
+            if mine != theirs:
+                count += sum(mine[i:i + 3] != theirs[i:i + 3] for i in range(0, len(mine), 3))
+        return count
+
+
+def take(display):
+    """A picture of the whole display."""
+    command = [needed("import"), "-display", display, "-window", "root", "ppm:-"]
+    return Picture(subprocess.run(command, check=True, capture_output=True).stdout)
+
+
+def save(display, path):
+    """Writes a picture of the whole display as PNG."""
+    subprocess.run([needed("import"), "-display", display, "-window", "root", str(path)], check=True)
