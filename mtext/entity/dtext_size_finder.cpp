@@ -2,7 +2,15 @@
 
 #include <cmath>
 
+#include "od/db/OdDbDatabase.h"
+
 namespace mtext {
+
+dtext_size_finder::dtext_size_finder(OdSmartPtr<OdDbDatabase> database, OdDb::TextVertMode vertical_mode,
+                                     std::uint32_t vertical_attachment)
+    : mtext_size_finder(std::move(database)),
+      m_vertical_mode(vertical_mode),
+      m_vertical_attachment(vertical_attachment) {}
 
 string_metrics dtext_size_finder::measure(const format::string& format, std::u16string_view text) const {
   string_metrics size = mtext_size_finder::measure(format, text);

@@ -13,10 +13,7 @@ class dtext_size_finder : public mtext_size_finder {
   enum attachment : std::uint32_t { attached_top = 0, attached_middle = 1, attached_bottom = 2 };
 
   dtext_size_finder(OdSmartPtr<OdDbDatabase> database, OdDb::TextVertMode vertical_mode,
-                    std::uint32_t vertical_attachment)
-      : mtext_size_finder(std::move(database)),
-        m_vertical_mode(vertical_mode),
-        m_vertical_attachment(vertical_attachment) {}
+                    std::uint32_t vertical_attachment);
 
   string_metrics measure(const format::string& format, std::u16string_view text) const override;
 
