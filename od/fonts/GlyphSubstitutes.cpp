@@ -13,28 +13,31 @@ std::shared_ptr<const OdFont> GlyphSubstitutes::find(const Wish& wish) {
 }
 
 std::shared_ptr<const OdFont> GlyphSubstitutes::search(const Wish& wish) {
-  if (wish.strokes) {
-    for (std::u16string_view name : odWideStrokeFonts()) {
-      auto font = m_loader->strokeFont(name);
-      if (font && font->glyph(wish.character)) return font;
-    }
+  auto font = wish.strokes ? amongStrokes(wish) : amongTypefaces(wish);
+  if (font) return font;
+  return wish.strokes ? amongTypefaces(wish) : amongStrokes(wish);
+}
+
+std::shared_ptr<const OdFont> GlyphSubstitutes::amongStrokes(const Wish& wish) {
+  for (std::u16string_view name : odWideStrokeFonts()) {
+    auto font = m_loader->strokeFont(name);
+    if (font && font->glyph(wish.character)) return font;
   }
-  try {
-    return amongTypefaces(wish);
-  } catch (const OdError&) {
-    // A typeface that is listed and cannot be read: the character counts as missing and is noted as such.
-    return nullptr;
-  }
+  return nullptr;
 }
 
 std::shared_ptr<const OdFont> GlyphSubstitutes::amongTypefaces(const Wish& wish) {
   const TypefaceIndex& typefaces = m_loader->typefaces();
-  if (auto file = typefaces.findFamily(u"DejaVu Sans", wish.bold, wish.italic)) {
-    auto font = m_loader->typeface(*file);
-    if (font->glyph(wish.character)) return font;
+  std::optional<OdTypefaceFile> files[] = {typefaces.findFamily(u"DejaVu Sans", wish.bold, wish.italic),
+                                           typefaces.findCharacter(wish.character)};
+  for (const auto& file : files) {
+    if (!file) continue;
+    try {
+      auto font = m_loader->typeface(*file);
+      if (font->glyph(wish.character)) return font;
+    } catch (const OdError&) {
+      // A typeface that is listed and cannot be read is as good as none; what is drawn in the end is noted.
+    }
   }
-  auto file = typefaces.findCharacter(wish.character);
-  if (!file) return nullptr;
-  auto font = m_loader->typeface(*file);
-  return font->glyph(wish.character) ? font : nullptr;
+  return nullptr;
 }

@@ -22,14 +22,15 @@ class GlyphSubstitutes {
     friend auto operator<=>(const Wish&, const Wish&) = default;
   };
 
-  /// A font with the character: for strokes the wide stroke fonts first; then DejaVu Sans; then any installed
-  /// typeface. Null when there is none.
+  /// A font with the character: the wide stroke fonts, for strokes first and for typefaces last; DejaVu Sans;
+  /// any installed typeface. Null when there is none.
   std::shared_ptr<const OdFont> find(const Wish& wish);
 
   SubstitutionNotes& notes() { return *m_notes; }
 
  private:
   std::shared_ptr<const OdFont> search(const Wish& wish);
+  std::shared_ptr<const OdFont> amongStrokes(const Wish& wish);
   std::shared_ptr<const OdFont> amongTypefaces(const Wish& wish);
 
   std::shared_ptr<FontLoader> m_loader;

@@ -105,9 +105,30 @@ void OdLffFont::readKey(std::string_view line) {
   if (key == "linespacingfactor" && number(line) > 0) m_lineSpacingFactor = number(line);
 }
 
+bool OdLffFont::has(char32_t character) const {
+  return m_places.contains(character) && !isPlaceholder(character);
+}
+
+/// Some fonts fill the places of letters that they lack with their full stop. Drawn, the letter would be lost
+/// without a word.
+bool OdLffFont::isPlaceholder(char32_t character) const {
+  constexpr char32_t kMiddleDot = 0xB7;
+  auto stop = m_places.find(U'.');
+  if (character < 0x80 || character == kMiddleDot || stop == m_places.end()) return false;
+  return block(m_places.at(character)) == block(stop->second);
+}
+
+/// The lines of a character up to the empty line.
+std::string_view OdLffFont::block(std::size_t place) const {
+  FontLines lines(m_text, place);
+  std::string_view line;
+  std::size_t end = place;
+  while (lines.next(line) && !trimmed(line).empty()) end = lines.at();
+  return std::string_view(m_text).substr(place, end - place);
+}
+
 const OdFontGlyph* OdLffFont::glyph(char32_t character, bool) const {
-  bool isBlank = character == U' ';
-  if (!isBlank && !m_places.contains(character)) return nullptr;
+  if (character != U' ' && !has(character)) return nullptr;
   auto [place, isNew] = m_glyphs.try_emplace(character);
   if (isNew) place->second = read(character);
   return &place->second;

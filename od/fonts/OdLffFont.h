@@ -23,6 +23,9 @@ class OdLffFont : public OdFont {
   const OdFontGlyph* missingGlyph() const override;
 
  private:
+  bool has(char32_t character) const;
+  bool isPlaceholder(char32_t character) const;
+  std::string_view block(std::size_t place) const;
   void readKey(std::string_view line);
   OdFontGlyph read(char32_t character) const;
   void readLines(char32_t character, OdFontGlyph& glyph, std::vector<char32_t>& included) const;

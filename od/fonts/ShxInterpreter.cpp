@@ -83,6 +83,7 @@ void ShxInterpreter::enter(unsigned number) {
 }
 
 void ShxInterpreter::leave() {
+  if (m_frames.empty()) return;
   Frame frame = m_frames.back();
   m_frames.pop_back();
   if (!frame.isBoxed) return;
