@@ -11,6 +11,7 @@ operation_table all_operations() {
   add_serialize_operations(table);
   add_escape_operations(table);
   add_geom_operations(table);
+  add_session_operations(table);
   return table;
 }
 

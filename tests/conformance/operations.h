@@ -21,5 +21,6 @@ void add_parse_operations(operation_table& table);
 void add_serialize_operations(operation_table& table);
 void add_escape_operations(operation_table& table);
 void add_geom_operations(operation_table& table);
+void add_session_operations(operation_table& table);
 
 }  // namespace conformance
