@@ -12,7 +12,8 @@ ODRX_DEFINE_ABSTRACT_MEMBERS(OdDbEntity, OdDbObject)
 namespace {
 
 constexpr int kOrder[] = {67, 410, 8, 6, 347, 62, 370, 420, 430, 440, 48, 60, 92, 160, 310, 380, 390, 284};
-const OdDbSubclass kCommon{"AcDbEntity", kOrder};
+constexpr int kLayerName = 8;
+const OdDbSubclass kCommon{"AcDbEntity", kOrder, 0, kLayerName};
 
 OdDbObjectId recordOf(OdDbObjectId tableId, const OdString& name) {
   const auto table = odOpen<OdDbSymbolTable>(tableId);
@@ -33,7 +34,10 @@ OdDbObjectId OdDbEntity::layerId() const {
   return database() ? recordOf(database()->getLayerTableId(), layer()) : OdDbObjectId();
 }
 
-void OdDbEntity::setLayer(const OdString& name) { edit(kCommon).setString(8, name); }
+void OdDbEntity::setLayer(const OdString& name) {
+  assertWriteEnabled();
+  if (layer().iCompare(name.str()) != 0) edit(kCommon).setString(8, name);
+}
 
 void OdDbEntity::setLayer(OdDbObjectId layer) {
   setLayer(odCastOrThrow<OdDbLayerTableRecord>(layer.openObject())->getName());

@@ -5,7 +5,8 @@
 namespace {
 
 dxf::Range rangeOf(const dxf::Record& record, const OdDbSubclass& part) {
-  if (auto range = record.subclass(part.marker, part.occurrence)) return *range;
+  const auto own = record.subclass(part.marker, part.occurrence);
+  if (own && (part.required == 0 || record.find(part.required, *own))) return *own;
   if (part.occurrence > 0) {
     if (auto range = record.subclass(part.marker)) return *range;
   }

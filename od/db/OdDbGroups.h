@@ -12,6 +12,9 @@ struct OdDbSubclass {
   std::string_view marker;
   std::span<const int> order;  ///< codes that are missing here are written at the end
   std::size_t occurrence = 0;  ///< counts equal markers of the record
+  /// A code that the part cannot do without; 0 for none. Where it is missing the writer has put the part's
+  /// groups elsewhere, and the whole record is searched.
+  int required = 0;
 };
 
 /// Reads the groups of one part of a record. Values that are missing or unreadable give the fallback.

@@ -75,6 +75,17 @@ TEST(DrawingDefects, an_entity_of_an_unknown_kind_keeps_all_its_groups) {
   EXPECT_EQ(database->writeBytes(), drawing("0 SECTION 2 ENTITIES 0 WIDGET 8 stone 71 3 10 1.5 0 ENDSEC"));
 }
 
+TEST(DrawingDefects, layer_and_colour_behind_the_wrong_marker_are_found) {
+  const OdDbDatabasePtr database =
+      read("0 SECTION 2 ENTITIES 0 LINE 100 AcDbEntity 100 AcDbLine 8 walls 62 5 10 1.0 0 ENDSEC");
+  const auto line = odOpen<OdDbLine>(modelOf(*database)[0], OdDb::kForWrite);
+  EXPECT_EQ(line->layer(), OdString(u"walls"));
+  EXPECT_EQ(line->colorIndex(), 5);
+  line->setLayer(u"roof");
+  EXPECT_EQ(database->writeBytes(),
+            drawing("0 SECTION 2 ENTITIES 0 LINE 100 AcDbEntity 100 AcDbLine 8 roof 62 5 10 1.0 0 ENDSEC"));
+}
+
 TEST(DrawingDefects, a_block_that_leads_to_itself_is_reported_once_and_the_rest_is_drawn) {
   const OdDbDatabasePtr database =
       read("0 SECTION 2 BLOCKS" + block("A", kLine + insert("B")) + block("B", kLine + insert("A")) +
