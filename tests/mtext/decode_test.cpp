@@ -26,7 +26,7 @@ TEST(Decode, lays_the_text_out_in_the_given_frame) {
 }
 
 TEST(Decode, shows_the_text_of_a_bound_field) {
-  OdSmartPtr<OdDbField> date(new OdDbField(OdString(u"date"), OdString(u"now")));
+  OdSmartPtr<OdDbField> date(new OdDbField(OdString(u"date"), OdString(u"now")), kOdRxObjAttach);
   date->setEvaluatedText(OdString(u"today"));
   const fields_map fields{{u"%<now>%", date}};
   EXPECT_EQ(drawn(decode(u"on %<now>%", {}, frame(), stub_finder(), fields)), "on today");
