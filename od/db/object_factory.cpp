@@ -11,11 +11,17 @@
 #include "od/db/OdDbCircle.h"
 #include "od/db/OdDbDictionary.h"
 #include "od/db/OdDbDimension.h"
+#include "od/db/OdDbEllipse.h"
+#include "od/db/OdDbFace.h"
 #include "od/db/OdDbLayerTableRecord.h"
+#include "od/db/OdDbLeader.h"
 #include "od/db/OdDbLine.h"
 #include "od/db/OdDbLinetypeTableRecord.h"
 #include "od/db/OdDbMText.h"
+#include "od/db/OdDbPoint.h"
 #include "od/db/OdDbPolyline.h"
+#include "od/db/OdDbSolid.h"
+#include "od/db/OdDbSpline.h"
 #include "od/db/OdDbText.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
 #include "od/db/OdDbUnknownEntity.h"
@@ -34,21 +40,28 @@ OdDbObjectPtr make() {
 
 const std::unordered_map<std::string_view, Maker>& makers() {
   static const std::unordered_map<std::string_view, Maker> table = {
+      {"3DFACE", make<OdDbFace>},
       {"ARC", make<OdDbArc>},
       {"ATTDEF", make<OdDbAttributeDefinition>},
       {"ATTRIB", make<OdDbAttribute>},
       {"CIRCLE", make<OdDbCircle>},
       {"DICTIONARY", make<OdDbDictionary>},
       {"DIMENSION", make<OdDbDimension>},
+      {"ELLIPSE", make<OdDbEllipse>},
       {"INSERT", make<OdDbBlockReference>},
       {"LAYER", make<OdDbLayerTableRecord>},
+      {"LEADER", make<OdDbLeader>},
       {"LINE", make<OdDbLine>},
       {"LTYPE", make<OdDbLinetypeTableRecord>},
       {"LWPOLYLINE", make<OdDbPolyline>},
       {"MTEXT", make<OdDbMText>},
+      {"POINT", make<OdDbPoint>},
       {"POLYLINE", make<OdDb2dPolyline>},
+      {"SOLID", make<OdDbSolid>},
+      {"SPLINE", make<OdDbSpline>},
       {"STYLE", make<OdDbTextStyleTableRecord>},
       {"TEXT", make<OdDbText>},
+      {"TRACE", make<OdDbSolid>},
       {"VIEWPORT", make<OdDbViewport>},
       {"VPORT", make<OdDbViewportTableRecord>},
   };

@@ -79,6 +79,52 @@ TEST(Drawing, a_polyline_is_divided_at_its_arcs) {
   EXPECT_EQ(recorder.primitives()[2].contours[0].size(), 3u);
 }
 
+TEST(Drawing, a_solid_fills_its_corners_in_the_order_of_a_z) {
+  EXPECT_EQ(
+      pictureOf(kEntities + "0 SOLID 8 0 10 0.0 20 0.0 11 1.0 21 0.0 12 0.0 22 1.0 13 1.0 23 1.0 0 ENDSEC"),
+      "polygon (0,0) (1,0) (1,1) (0,1)\n");
+}
+
+TEST(Drawing, a_face_draws_the_edges_that_are_not_hidden) {
+  EXPECT_EQ(pictureOf(kEntities +
+                      "0 3DFACE 8 0 10 0.0 20 0.0 11 1.0 21 0.0 12 1.0 22 1.0 13 0.0 23 1.0 70 2 0 ENDSEC"),
+            "polyline (0,0) (1,0)\npolyline (1,1) (0,1)\npolyline (0,1) (0,0)\n");
+}
+
+TEST(Drawing, a_spline_of_the_first_degree_is_its_control_points) {
+  const auto extents = [](const std::string& groups) {
+    const std::string picture = pictureOf(kEntities + "0 SPLINE 8 0 " + groups + " 0 ENDSEC");
+    return std::pair(picture.substr(0, picture.find(')') + 1), picture.substr(picture.rfind('(')));
+  };
+  const auto [first, last] =
+      extents("71 1 40 0.0 40 0.0 40 1.0 40 2.0 40 2.0 10 0.0 20 0.0 10 4.0 20 0.0 10 4.0 20 3.0");
+  EXPECT_EQ(first, "polyline (0,0)");
+  EXPECT_EQ(last, "(4,3)\n");
+}
+
+TEST(Drawing, a_quadratic_spline_passes_half_way_between_chord_and_control_point) {
+  const std::string picture = pictureOf(kEntities +
+                                        "0 SPLINE 8 0 71 2 40 0.0 40 0.0 40 0.0 40 1.0 40 1.0 40 1.0 10 0.0 "
+                                        "20 0.0 10 2.0 20 4.0 10 4.0 20 0.0 0 ENDSEC");
+  EXPECT_NE(picture.find(" (2,2) "), std::string::npos) << picture;
+}
+
+TEST(Drawing, an_ellipse_reaches_its_axes) {
+  std::string lines =
+      kEntities +
+      "0 ELLIPSE 8 0 10 1.0 20 1.0 11 0.0 21 3.0 40 0.5 41 0.0 42 6.283185307179586 0 ENDSEC 0 EOF";
+  for (char& c : lines) {
+    if (c == ' ') c = '\n';
+  }
+  const OdDbDatabasePtr database = OdDbDatabase::readBytes(lines + "\n", "test");
+  OdGeExtents3d extents;
+  const auto ids = odOpen<OdDbBlockTableRecord>(database->getModelSpaceId())->entities();
+  ASSERT_EQ(odOpen<OdDbEntity>(ids.at(0))->getGeomExtents(extents), eOk);
+  EXPECT_NEAR(extents.maxPoint().y, 4, 0.01);
+  EXPECT_NEAR(extents.maxPoint().x, 2.5, 0.01);
+  EXPECT_NEAR(extents.minPoint().x, -0.5, 0.01);
+}
+
 TEST(Drawing, an_old_polyline_draws_its_vertices) {
   EXPECT_EQ(
       pictureOf(kEntities + "0 POLYLINE 8 0 66 1 70 1 0 VERTEX 8 0 10 0.0 20 0.0 0 VERTEX 8 0 10 3.0 20 0.0 "
