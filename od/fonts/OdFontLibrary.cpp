@@ -51,8 +51,17 @@ bool isTypefaceFile(const std::u16string& file) {
   return false;
 }
 
+/// Texts name a shape font and its big font in one, with a comma between.
+void splitFiles(OdFontRequest& request) {
+  auto comma = request.file.find(u',');
+  if (comma == request.file.npos) return;
+  if (request.bigFontFile.empty()) request.bigFontFile = request.file.substr(comma + 1);
+  request.file.resize(comma);
+}
+
 /// The request without what changes nothing, so that equal fonts are found under one key.
 OdFontRequest reduced(OdFontRequest request) {
+  splitFiles(request);
   if (!request.typeface.empty()) {
     if (request.typeface.front() == u'@') request.typeface.erase(0, 1);
     request.file.clear();

@@ -5,8 +5,8 @@
 
 /// What a text style asks a font library for.
 struct OdFontRequest {
-  std::u16string typeface{};     ///< family name; empty to go by the file
-  std::u16string file{};         ///< font file with or without path and extension
+  std::u16string typeface{};  ///< family name; empty to go by the file
+  std::u16string file{};      ///< font file with or without path and extension; a big font may follow a comma
   std::u16string bigFontFile{};  ///< shape font for characters of two bytes; empty for none
   bool bold = false;
   bool italic = false;

@@ -16,6 +16,8 @@ namespace {
 
 constexpr double kCapitalHeight = 9;
 constexpr char32_t kReplacement = 0xFFFD;
+constexpr double kLeastReplacement = 3;
+constexpr char32_t kDiamond = 0x110000;  ///< a key that no character has
 constexpr double kFarthest = 1e6;
 
 std::string_view trimmed(std::string_view text) {
@@ -135,8 +137,9 @@ const OdFontGlyph* OdLffFont::glyph(char32_t character, bool) const {
 }
 
 const OdFontGlyph* OdLffFont::missingGlyph() const {
-  if (const OdFontGlyph* replacement = glyph(kReplacement)) return replacement;
-  auto [place, isNew] = m_glyphs.try_emplace(kReplacement);
+  const OdFontGlyph* replacement = glyph(kReplacement);
+  if (replacement && odGlyphBox(*replacement).height() >= kLeastReplacement) return replacement;
+  auto [place, isNew] = m_glyphs.try_emplace(kDiamond);
   if (isNew) {
     place->second.contours = {{{1, 0}, {0, 2}, {1, 4}, {2, 2}, {1, 0}}};
     place->second.advance = {2 + m_letterSpacing, 0};

@@ -19,7 +19,8 @@ class OdLffFont : public OdFont {
   double linePitch() const override { return 15 * m_lineSpacingFactor; }
   double internalLeading() const override { return 0; }
   const OdFontGlyph* glyph(char32_t character, bool vertical = false) const override;
-  /// U+FFFD, or a diamond in a font without it.
+  /// U+FFFD, or a diamond in a font that lacks it or draws it so small that it could be taken for a full
+  /// stop.
   const OdFontGlyph* missingGlyph() const override;
 
  private:

@@ -198,6 +198,12 @@ TEST(OdFontLibrary, a_big_font_draws_the_characters_of_two_bytes) {
   EXPECT_EQ(substituted(library), "");
 }
 
+TEST(OdFontLibrary, a_big_font_may_follow_the_file_name_behind_a_comma) {
+  OdFontLibrary library;
+  EXPECT_EQ(library.find({.file = u"romans.lff,extfont2.shx"}),
+            library.find({.file = u"romans.lff", .bigFontFile = u"extfont2.shx"}));
+}
+
 TEST(OdFontLibrary, a_missing_big_font_is_noted_and_its_characters_are_found_elsewhere) {
   OdFontLibrary library;
   auto font = library.find({.file = u"romans.lff", .bigFontFile = u"extfont2.shx"});

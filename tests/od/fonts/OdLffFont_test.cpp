@@ -84,9 +84,11 @@ TEST(OdLffFont, a_letter_drawn_as_the_full_stop_is_a_letter_it_lacks) {
 }
 
 TEST(OdLffFont, shows_missing_characters_by_its_replacement_sign_or_a_diamond) {
-  OdLffFont with("[FFFD]\n0,0;1,1\n", u"a.lff");
+  OdLffFont with("[FFFD]\n0,0;1,9\n", u"a.lff");
   OdLffFont without("[0041]\n0,0;1,1\n", u"a.lff");
-  EXPECT_EQ(glyphText(*with.missingGlyph()), "0,0 1,1 > 4,0");
+  OdLffFont tooSmall("[FFFD]\n0,0;1,1\n", u"a.lff");
+  EXPECT_EQ(glyphText(*with.missingGlyph()), "0,0 1,9 > 4,0");
+  EXPECT_EQ(glyphText(*tooSmall.missingGlyph()), "1,0 0,2 1,4 2,2 1,0 > 5,0");
   EXPECT_EQ(glyphText(*without.missingGlyph()), "1,0 0,2 1,4 2,2 1,0 > 5,0");
 }
 

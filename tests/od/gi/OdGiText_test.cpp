@@ -82,6 +82,19 @@ TEST(OdGiText, is_mirrored_backward_and_upside_down) {
   EXPECT_EQ(drawn(u"A", style), "polyline (0,0) (0,-9) (6,-9)\n");
 }
 
+TEST(OdGiText, runs_downwards_where_style_and_font_are_vertical) {
+  OdGiTextStyle style;
+  style.setFileName(u"down.shx");
+  style.setTextSize(6);
+  style.loadStyleRec(fonts());
+  EXPECT_EQ(drawn(u"AA", style), "polyline (0,0) (0,6)\npolyline (6,0) (6,6)\n");
+  style.setVertical(true);
+  EXPECT_EQ(drawn(u"AA", style), "polyline (-3,-6) (-3,0)\npolyline (-3,-16) (-3,-10)\n");
+  OdGiTextStyle level = boxStyle();
+  level.setVertical(true);
+  EXPECT_EQ(drawn(u"I", level), drawn(u"I", boxStyle())) << "a font without that mode stays level";
+}
+
 TEST(OdGiText, reads_percent_sequences_unless_it_is_raw) {
   EXPECT_EQ(drawn(u"%%d", boxStyle(), /*raw=*/false), "polyline (0,6) (3,6)\n");
   EXPECT_EQ(drawn(u"%%cI", boxStyle(), /*raw=*/false), "polyline (0,0) (6,0)\npolyline (9,0) (9,9)\n");
