@@ -13,6 +13,7 @@
 #include "od/db/OdDbDimension.h"
 #include "od/db/OdDbEllipse.h"
 #include "od/db/OdDbFace.h"
+#include "od/db/OdDbHatch.h"
 #include "od/db/OdDbLayerTableRecord.h"
 #include "od/db/OdDbLeader.h"
 #include "od/db/OdDbLine.h"
@@ -48,6 +49,7 @@ const std::unordered_map<std::string_view, Maker>& makers() {
       {"DICTIONARY", make<OdDbDictionary>},
       {"DIMENSION", make<OdDbDimension>},
       {"ELLIPSE", make<OdDbEllipse>},
+      {"HATCH", make<OdDbHatch>},
       {"INSERT", make<OdDbBlockReference>},
       {"LAYER", make<OdDbLayerTableRecord>},
       {"LEADER", make<OdDbLeader>},

@@ -85,6 +85,30 @@ TEST(Drawing, a_solid_fills_its_corners_in_the_order_of_a_z) {
       "polygon (0,0) (1,0) (1,1) (0,1)\n");
 }
 
+TEST(Drawing, a_solid_hatch_fills_all_its_paths_at_once) {
+  EXPECT_EQ(
+      pictureOf(kEntities + "0 HATCH 8 0 10 0.0 20 0.0 30 0.0 2 SOLID 70 1 71 0 91 2 "
+                            "92 2 72 0 73 1 93 3 10 0.0 20 0.0 10 9.0 20 0.0 10 9.0 20 9.0 97 0 "
+                            "92 0 93 2 72 1 10 5.0 20 1.0 11 6.0 21 1.0 72 1 10 6.0 20 1.0 11 6.0 21 2.0 "
+                            "97 1 330 2A 75 0 76 1 98 0 0 ENDSEC"),
+      "polygon (0,0) (9,0) (9,9) | (5,1) (6,1) (6,1) (6,2)\n");
+}
+
+TEST(Drawing, a_hatch_edge_that_runs_clockwise_has_its_angles_negated) {
+  std::string lines = kEntities +
+                      "0 HATCH 8 0 10 0.0 20 0.0 2 SOLID 70 1 91 1 92 0 93 1 72 2 10 0.0 20 0.0 40 2.0 "
+                      "50 270.0 51 360.0 73 0 97 0 0 ENDSEC 0 EOF";
+  for (char& c : lines) {
+    if (c == ' ') c = '\n';
+  }
+  const OdDbDatabasePtr database = OdDbDatabase::readBytes(lines + "\n", "test");
+  OdGeExtents3d extents;
+  const auto ids = odOpen<OdDbBlockTableRecord>(database->getModelSpaceId())->entities();
+  ASSERT_EQ(odOpen<OdDbEntity>(ids.at(0))->getGeomExtents(extents), eOk);
+  EXPECT_NEAR(extents.minPoint().y, 0, 1e-9);
+  EXPECT_NEAR(extents.maxPoint().y, 2, 1e-9);
+}
+
 TEST(Drawing, a_face_draws_the_edges_that_are_not_hidden) {
   EXPECT_EQ(pictureOf(kEntities +
                       "0 3DFACE 8 0 10 0.0 20 0.0 11 1.0 21 0.0 12 1.0 22 1.0 13 0.0 23 1.0 70 2 0 ENDSEC"),
