@@ -32,7 +32,7 @@ std::optional<tab_stop> read_stop(text_cursor& cursor) {
   return stop;
 }
 
-bool read_spec(text_cursor& cursor, std::vector<tab_stop>& tabs) {
+bool read_list_entry(text_cursor& cursor, std::vector<tab_stop>& tabs) {
   if (cursor.accept(u'z')) {
     tabs.clear();
     return true;
@@ -51,7 +51,7 @@ bool read_spec(text_cursor& cursor, std::vector<tab_stop>& tabs) {
 
 void read_tabs(text_cursor& cursor, std::vector<tab_stop>& tabs) {
   tabs.clear();
-  while (read_spec(cursor, tabs) && cursor.accept(u',')) {
+  while (read_list_entry(cursor, tabs) && cursor.accept(u',')) {
   }
 }
 
