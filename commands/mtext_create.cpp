@@ -53,7 +53,8 @@ struct corners {
 int ask_corners(HostDocument& document, const OdDbMTextPtr& text, std::optional<double> width, corners& box) {
   MTPreviewTracker tracker(text, document.view().gsView());
   HostPromptRequest request{.prompt = host::resource_string(kFirstCorner), .tracker = &tracker};
-  if (const int answer = document.prompt().getPoint(request, box.first); answer != kAnswerValue) return answer;
+  if (const int answer = document.prompt().getPoint(request, box.first); answer != kAnswerValue)
+    return answer;
   if (width) {
     box.opposite = box.first + text->direction() * *width;
     return kAnswerValue;

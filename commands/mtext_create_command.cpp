@@ -26,8 +26,8 @@ int CMTCreateCmd::run() {
   if (!document) return setStatus(kCommandDone);
   new_mtext_outcome outcome;
   if (newMText(*document, {}, outcome)) {
-    const auto space = odCastOrThrow<OdDbBlockTableRecord>(
-        target_space(document->database()).openObject(OdDb::kForWrite));
+    const auto space =
+        odCastOrThrow<OdDbBlockTableRecord>(target_space(document->database()).openObject(OdDb::kForWrite));
     hostEntUpd(space->appendOdDbEntity(outcome.text.get()));
   }
   return setStatus(outcome.status);

@@ -6,8 +6,8 @@
 class HostDocument;
 class OdDbObjectId;
 
-/// Edits an open text in place. 0 when it was accepted and changed, else a `CommandStatus`: 0 for a text accepted as
-/// it was, 1 for a cancelled one.
+/// Edits an open text in place. 0 when it was accepted and changed, else a `CommandStatus`: 0 for a text
+/// accepted as it was, 1 for a cancelled one.
 int editMText(OdDbMTextPtr text, HostDocument& document);
 
 /// Opens an object and edits it. What is no multi-line text is refused at the prompt.

@@ -6,8 +6,8 @@
 
 class OdGiViewport;
 
-/// What the user sees while dragging the box of a new text: a sample at the cursor, then the box with the sample in
-/// it. The text keeps the box as its location, width and height.
+/// What the user sees while dragging the box of a new text: a sample at the cursor, then the box with the
+/// sample in it. The text keeps the box as its location, width and height.
 class MTPreviewTracker : public HostEdPointTracker {
  public:
   /// `view` has to outlive the tracker.
@@ -32,7 +32,7 @@ class MTPreviewTracker : public HostEdPointTracker {
   OdGePlane m_plane;
 };
 
-/// The point of `plane` that is seen at `point` along `direction`, in the plane's coordinates. False when the view
-/// looks along the plane.
+/// The point of `plane` that is seen at `point` along `direction`, in the plane's coordinates. False when the
+/// view looks along the plane.
 bool project_on_plane(const OdGePoint3d& point, const OdGeVector3d& direction, const OdGePlane& plane,
                       OdGePoint2d& at);

@@ -9,6 +9,7 @@ enum session_result : int {
   kSessionDiscarded = 2,
 };
 
-/// Waits at the prompt while `session` is edited. A cancel with changes asks whether to save them, and may go back
-/// to the text. The end of the input discards. Returns `kSessionAccepted`, or another number for all else.
+/// Waits at the prompt while `session` is edited. A cancel with changes asks whether to save them, and may go
+/// back to the text. The end of the input discards. Returns `kSessionAccepted`, or another number for all
+/// else.
 int wait_for_session(HostEdPrompt& prompt, const smart_edit& session);

@@ -15,7 +15,8 @@ constexpr int kDark = 383;
 
 OdCmEntityColor fill_color(const text_background& wanted, const OdCmEntityColor& drawing_background) {
   if (!wanted.on) return tinted(drawing_background);
-  const bool is_color = !wanted.use_drawing_background && (wanted.color.isByColor() || wanted.color.isByACI());
+  const bool is_color =
+      !wanted.use_drawing_background && (wanted.color.isByColor() || wanted.color.isByACI());
   return is_color ? wanted.color : drawing_background;
 }
 
@@ -29,7 +30,8 @@ OdCmEntityColor tinted(const OdCmEntityColor& background) {
   return {mixed(red), mixed(green), mixed(blue)};
 }
 
-void draw_background(const ExMTextEditable& text, const OdCmEntityColor& drawing_background, OdGiGeometry& geometry) {
+void draw_background(const ExMTextEditable& text, const OdCmEntityColor& drawing_background,
+                     OdGiGeometry& geometry) {
   const OdGiSubEntityTraits before = geometry.traits();
   geometry.traits().setFillType(kOdGiFillAlways);
   geometry.traits().setTrueColor(fill_color(text.background, drawing_background));

@@ -12,7 +12,9 @@ segment stroke(double x, double baseline, double above, double below) {
   return {{x, baseline + above}, {x, baseline - below}};
 }
 
-segment at_left_of(const mtext::geom_part& part) { return stroke(part.x, part.y, part.size.above, part.size.below); }
+segment at_left_of(const mtext::geom_part& part) {
+  return stroke(part.x, part.y, part.size.above, part.size.below);
+}
 
 segment at_right_of(const mtext::geom_part& part) {
   return stroke(part.x + part.size.advance, part.y, part.size.above, part.size.below);
@@ -26,7 +28,8 @@ segment at_end(const mtext::geom_multitext& text) {
 }
 
 /// In a text without parts, where no layout tells: from the paragraph's alignment, else from the attachment.
-segment in_empty_text(const mtext::geom_multitext& text, const mtext::font_metrics& font, const text_frame& frame) {
+segment in_empty_text(const mtext::geom_multitext& text, const mtext::font_metrics& font,
+                      const text_frame& frame) {
   const auto& paragraph = text.format;
   const double unit = paragraph.relative ? text.info.height : 1.0;
   const double left = (paragraph.left + paragraph.indent) * unit;
@@ -50,8 +53,9 @@ segment caret_segment(const mtext::geom_multitext& text, const mtext::marks::sel
 void ExMTextEditable::caretPoints(const mtext::marks::selection& selection, OdGePoint2d& top,
                                   OdGePoint2d& bottom) const {
   const segment found =
-      m_text.parts.empty() ? in_empty_text(m_text, m_finder->font_metrics(insertionFormat(selection)), m_frame)
-                           : caret_segment(m_text, selection);
+      m_text.parts.empty()
+          ? in_empty_text(m_text, m_finder->font_metrics(insertionFormat(selection)), m_frame)
+          : caret_segment(m_text, selection);
   top = found.top;
   bottom = found.bottom;
 }

@@ -23,14 +23,17 @@ double right_end(const mtext::geom_multitext& text, const mtext::geom_column& co
   return right;
 }
 
-/// Left end of the text in a column: to the left of the column only where nothing wraps and lines are centred.
+/// Left end of the text in a column: to the left of the column only where nothing wraps and lines are
+/// centred.
 double left_end(const mtext::geom_multitext& text, const mtext::geom_column& column) {
   double left = column.x;
   for (std::size_t at = column.first; at < column.last; ++at) left = std::min(left, text.parts[at].x);
   return left;
 }
 
-text_box grown(text_box box, double by) { return {box.left - by, box.bottom - by, box.right + by, box.top + by}; }
+text_box grown(text_box box, double by) {
+  return {box.left - by, box.bottom - by, box.right + by, box.top + by};
+}
 
 }  // namespace
 
@@ -40,8 +43,8 @@ std::vector<text_box> column_boxes(const mtext::geom_multitext& text, double mar
     const auto& column = text.columns[i];
     if (column.first == column.last) continue;
     const double limit = height_limit(text.info.columns, i);
-    const text_box box{left_end(text, column), std::min(column.y - column.height, -limit), right_end(text, column),
-                       std::max(column.y, 0.0)};
+    const text_box box{left_end(text, column), std::min(column.y - column.height, -limit),
+                       right_end(text, column), std::max(column.y, 0.0)};
     boxes.push_back(grown(box, margin * text.info.height));
   }
   return boxes;

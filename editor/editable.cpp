@@ -18,7 +18,9 @@ OdRxClass* ExMTextEditable::desc() {
   return record;
 }
 
-ExMTextEditablePtr ExMTextEditable::createObject() { return odCastOrThrow<ExMTextEditable>(desc()->create()); }
+ExMTextEditablePtr ExMTextEditable::createObject() {
+  return odCastOrThrow<ExMTextEditable>(desc()->create());
+}
 
 void ExMTextEditable::removeWatcher(MTextEditor& watcher) { std::erase(m_watchers, &watcher); }
 

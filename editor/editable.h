@@ -22,9 +22,9 @@ struct text_background {
 
 /// The text of a session: laid out, with its carets, and with every operation that changes it.
 ///
-/// It is an entity by class, so that the drawing library can draw it, and no table of the drawing ever holds it.
-/// The operations run over all selections in the order of their positions, which is how several carets type at
-/// once; none of them lays the text out. Whoever called them ends with `endOfEdit`.
+/// It is an entity by class, so that the drawing library can draw it, and no table of the drawing ever holds
+/// it. The operations run over all selections in the order of their positions, which is how several carets
+/// type at once; none of them lays the text out. Whoever called them ends with `endOfEdit`.
 ///
 /// Each job has a file of its own, named in the section's heading. Positions are indices into the parts.
 class ExMTextEditable : public OdDbEntity {
@@ -47,8 +47,8 @@ class ExMTextEditable : public OdDbEntity {
   /// What measures; kept for the session.
   void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
   const mtext::string_size_finder& finder() const { return *m_finder; }
-  /// Columns, spacing and the mode of extents. Height, alignment and vertical place follow `setTextHeight` and
-  /// `setAttachment`.
+  /// Columns, spacing and the mode of extents. Height, alignment and vertical place follow `setTextHeight`
+  /// and `setAttachment`.
   void setLayoutInfo(const mtext::convert_info& info);
   void setDefaultFormat(const mtext::format::string& format) { m_default_format = format; }
   const mtext::format::string& defaultFormat() const { return m_default_format; }
@@ -85,7 +85,8 @@ class ExMTextEditable : public OdDbEntity {
   // ---- editable_lines.cpp: lines as texts of their own
 
   std::size_t lineCount() const { return m_text.lines.size(); }
-  /// Plain text of line `index` without its break. Throws the text's own `std::invalid_argument` beyond the end.
+  /// Plain text of line `index` without its break. Throws the text's own `std::invalid_argument` beyond the
+  /// end.
   std::u16string lineText(std::size_t index) const;
   /// Where the baseline of line `index` starts, in the world.
   OdGePoint3d linePosition(std::size_t index) const;
@@ -112,8 +113,8 @@ class ExMTextEditable : public OdDbEntity {
   void moveEnd(bool shift);
   void moveTextStart(bool shift);
   void moveTextEnd(bool shift);
-  /// Selects `length` parts from `start`; -1 is up to the end. With `snap` the ends leave solids; with `keep` the
-  /// other selections stay.
+  /// Selects `length` parts from `start`; -1 is up to the end. With `snap` the ends leave solids; with `keep`
+  /// the other selections stay.
   void selectRange(std::size_t start, std::ptrdiff_t length, bool snap, bool keep);
   /// The word at a point in text coordinates, or a caret where there is none.
   void selectWordAt(const OdGePoint2d& at);
@@ -166,8 +167,8 @@ class ExMTextEditable : public OdDbEntity {
 
   // ---- editable_style.cpp
 
-  /// Takes font, width and slant of a style. With `keep_runs` every part takes the new default whole; without,
-  /// only what equalled the old default does.
+  /// Takes font, width and slant of a style. With `keep_runs` every part takes the new default whole;
+  /// without, only what equalled the old default does.
   void setStyle(OdDbObjectId style, bool keep_runs);
   OdDbObjectId styleId() const { return m_style; }
 
@@ -211,7 +212,8 @@ class ExMTextEditable : public OdDbEntity {
  private:
   /// What to insert at a position, with the insertion format there.
   using insertion = std::function<mtext::geom_multitext(const mtext::format::string& format, std::size_t at)>;
-  /// At each selection in turn: takes the insertion format, erases what is selected, inserts what `make` gives.
+  /// At each selection in turn: takes the insertion format, erases what is selected, inserts what `make`
+  /// gives.
   void replaceSelections(const insertion& make);
   /// Erases what a mark covers; the mark collapses to its begin.
   void eraseRange(const mtext::marks::mark& range);

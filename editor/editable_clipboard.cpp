@@ -34,7 +34,8 @@ std::u16string plain_text(const mtext::geom_multitext& text) {
 }
 
 /// What is selected, as format codes that say what differs from the text in front of it.
-std::u16string coded_text(const mtext::geom_multitext& text, const mtext::format::string& base, double height) {
+std::u16string coded_text(const mtext::geom_multitext& text, const mtext::format::string& base,
+                          double height) {
   std::u16string result;
   for (const auto& range : editing::selections_of(text)) {
     auto current = mtext::format::insertion_format(text, base, range.begin);

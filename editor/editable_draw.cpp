@@ -8,7 +8,8 @@ void ExMTextEditable::drawGeometry(OdGiWorldDraw& draw) const {
   OdGiGeometry& geometry = draw.geometry();
   draw.subEntityTraits().setLayer(layer());
   geometry.pushModelTransform(m_frame.text_to_world());
-  mtext::draw_parts(m_text, geometry, *database(),
-                    {.text_color = color(), .layer_color = draw.context().layerColor(layer()), .draft = m_draft});
+  mtext::draw_parts(
+      m_text, geometry, *database(),
+      {.text_color = color(), .layer_color = draw.context().layerColor(layer()), .draft = m_draft});
   geometry.popModelTransform();
 }

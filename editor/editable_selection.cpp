@@ -70,7 +70,8 @@ void ExMTextEditable::moveEnd(bool shift) {
     const bool ends_in_break = to > 0 && editing::is_break(m_text.parts[to - 1]);
     if (ends_in_break) --to;
     std::size_t anchor = range.anchor();
-    if (const auto* solid = editing::solid_ending_at(m_text, to); solid && anchor == to) anchor = solid->begin;
+    if (const auto* solid = editing::solid_ending_at(m_text, to); solid && anchor == to)
+      anchor = solid->begin;
     range = shift ? selection(anchor, to) : selection(to);
     range.at_line_end = !shift && !ends_in_break;
   });

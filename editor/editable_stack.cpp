@@ -41,7 +41,8 @@ void ExMTextEditable::rebuildSelections(const rebuilding& make) {
     std::optional<geom_multitext> made = make(m_text.slice(range->begin, range->end - range->begin), format);
     if (!made) continue;
     const std::size_t begin = range->begin;
-    made->marks.erase_if([](const auto& mark) { return dynamic_cast<const mtext::marks::selection*>(&mark); });
+    made->marks.erase_if(
+        [](const auto& mark) { return dynamic_cast<const mtext::marks::selection*>(&mark); });
     const std::size_t count = made->parts.size();
     eraseRange(*range);
     m_text.insert(begin, std::move(*made));
@@ -73,6 +74,7 @@ void ExMTextEditable::stackSelection() {
     const std::size_t at = raw.find_first_of(kSeparators);
     if (at == std::u16string::npos) return std::nullopt;
     const auto kind = static_cast<std::uint32_t>(kSeparators.find(raw[at]));
-    return mtext::to_geom(mtext::stack(format, raw.substr(0, at), raw.substr(at + 1), kind), textHeight(), *m_finder);
+    return mtext::to_geom(mtext::stack(format, raw.substr(0, at), raw.substr(at + 1), kind), textHeight(),
+                          *m_finder);
   });
 }

@@ -6,8 +6,8 @@
 
 namespace {
 
-/// First positions of the paragraphs that `range` touches, the last paragraph first: an edit at one leaves those
-/// still to come where they are.
+/// First positions of the paragraphs that `range` touches, the last paragraph first: an edit at one leaves
+/// those still to come where they are.
 std::vector<std::size_t> paragraphs_of(const mtext::geom_multitext& text, const mtext::marks::mark& range) {
   std::vector<std::size_t> starts{editing::paragraph_start(text, range.end)};
   while (starts.back() > range.begin) starts.push_back(editing::paragraph_start(text, starts.back() - 1));

@@ -5,7 +5,8 @@
 namespace {
 
 /// Equal in place and caret side; the line end flag is only how a caret is shown.
-bool same_places(const std::vector<mtext::marks::selection>& a, const std::vector<mtext::marks::selection>& b) {
+bool same_places(const std::vector<mtext::marks::selection>& a,
+                 const std::vector<mtext::marks::selection>& b) {
   const auto equal = [](const auto& x, const auto& y) {
     return x.begin == y.begin && x.end == y.end && x.caret_at_begin == y.caret_at_begin;
   };

@@ -41,8 +41,8 @@ std::vector<text_box> joined_boxes(const mtext::geom_multitext& text, const std:
   return boxes;
 }
 
-void draw_boxes(const std::vector<text_box>& boxes, const OdCmEntityColor& color, const OdGeMatrix3d& to_world,
-                OdGiGeometry& geometry) {
+void draw_boxes(const std::vector<text_box>& boxes, const OdCmEntityColor& color,
+                const OdGeMatrix3d& to_world, OdGiGeometry& geometry) {
   if (boxes.empty()) return;
   const OdGiSubEntityTraits before = geometry.traits();
   geometry.traits().setFillType(kOdGiFillAlways);

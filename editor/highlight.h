@@ -9,8 +9,8 @@ class OdGiGeometry;
 
 namespace editing {
 
-/// The boxes that show what is selected, in text coordinates. Neighbours on one row join; list labels are left
-/// out.
+/// The boxes that show what is selected, in text coordinates. Neighbours on one row join; list labels are
+/// left out.
 std::vector<text_box> selection_boxes(const mtext::geom_multitext& text);
 
 /// The boxes that show fields.

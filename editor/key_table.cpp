@@ -59,8 +59,8 @@ void column_break(session& s, const held&) { s.editable().insertColumnBreak(); }
 void redo(session& s, const held&) { s.redoStep(); }
 void undo(session& s, const held&) { s.undoStep(); }
 
-// Space and V open a step of their own in front of the character's, so that each costs an undo step after another
-// key. That is deliberate.
+// Space and V open a step of their own in front of the character's, so that each costs an undo step after
+// another key. That is deliberate.
 constexpr key_row kRows[] = {
     {VK_BACK, nullptr, delete_back, kUndoDelete, kEdits, true, u"deletes back; with Ctrl a word"},
     {VK_RETURN, existing_line, accept, kUndoType, kEdits, false, u"accepts the text"},

@@ -17,13 +17,13 @@ enum class key_effect {
 
 /// One row of the key table.
 struct key_row {
-  unsigned key;                                               ///< `HostKeyCode`, or the character of a letter key
-  bool (*applies)(const smart_edit&, const held_keys&);       ///< null: always
-  void (*action)(smart_edit&, const held_keys&);              ///< null for rows that pass
-  int kind;                                                   ///< undo step pushed first; `kUndoNone`: none
+  unsigned key;                                          ///< `HostKeyCode`, or the character of a letter key
+  bool (*applies)(const smart_edit&, const held_keys&);  ///< null: always
+  void (*action)(smart_edit&, const held_keys&);         ///< null for rows that pass
+  int kind;                                              ///< undo step pushed first; `kUndoNone`: none
   key_effect effect;
-  bool repeats;                                               ///< the action runs as often as the key came
-  const char16_t* help;                                       ///< what the key does, for the user
+  bool repeats;          ///< the action runs as often as the key came
+  const char16_t* help;  ///< what the key does, for the user
 };
 
 /// All rows. Of several rows for a key the first that applies counts.

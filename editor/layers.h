@@ -25,8 +25,8 @@ class gadget_draw : public OdGiDrawableImpl<OdGiDrawable> {
   view_part m_view;
 };
 
-/// The three layers of a session: background and text, then caret, then gadgets with the highlights. They stand in
-/// the view's overlay for as long as this lives.
+/// The three layers of a session: background and text, then caret, then gadgets with the highlights. They
+/// stand in the view's overlay for as long as this lives.
 class session_layers {
  public:
   /// What the session draws on each.

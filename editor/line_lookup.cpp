@@ -9,8 +9,9 @@ namespace editing {
 std::size_t line_at(const mtext::geom_multitext& text, std::size_t position) {
   const auto& lines = text.lines;
   if (lines.empty()) return 0;
-  const auto behind = std::upper_bound(lines.begin(), lines.end(), position,
-                                       [](std::size_t at, const mtext::geom_line& line) { return at < line.first; });
+  const auto behind =
+      std::upper_bound(lines.begin(), lines.end(), position,
+                       [](std::size_t at, const mtext::geom_line& line) { return at < line.first; });
   return behind == lines.begin() ? 0 : static_cast<std::size_t>(behind - lines.begin()) - 1;
 }
 

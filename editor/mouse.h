@@ -6,8 +6,8 @@
 
 /// Selecting with the left button: press, drag and release in the text, in text coordinates.
 ///
-/// From press to release it keeps the selections as the press left them, so that a drag over another selection and
-/// back again gives that one back.
+/// From press to release it keeps the selections as the press left them, so that a drag over another
+/// selection and back again gives that one back.
 class text_mouse {
  public:
   explicit text_mouse(ExMTextEditable& text) : m_text(text) {}
@@ -24,5 +24,6 @@ class text_mouse {
   void write_back();
 
   ExMTextEditable& m_text;
-  std::vector<mtext::marks::selection> m_selections;  ///< the pressed one last; empty while nothing is pressed
+  std::vector<mtext::marks::selection>
+      m_selections;  ///< the pressed one last; empty while nothing is pressed
 };

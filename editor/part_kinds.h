@@ -21,6 +21,8 @@ inline bool is_blank(const mtext::geom_part& part) {
 }
 
 /// The paragraph end alone.
-inline bool is_paragraph_end(const mtext::geom_part& part) { return part.type() == mtext::part_new_paragraph; }
+inline bool is_paragraph_end(const mtext::geom_part& part) {
+  return part.type() == mtext::part_new_paragraph;
+}
 
 }  // namespace editing

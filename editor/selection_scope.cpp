@@ -10,13 +10,15 @@ std::vector<mtext::marks::selection*> selection_marks(mtext::geom_multitext& tex
   std::vector<mtext::marks::selection*> found;
   for (auto& mark : text.marks)
     if (auto* selection = dynamic_cast<mtext::marks::selection*>(&mark)) found.push_back(selection);
-  std::stable_sort(found.begin(), found.end(), [](const auto* a, const auto* b) { return a->begin < b->begin; });
+  std::stable_sort(found.begin(), found.end(),
+                   [](const auto* a, const auto* b) { return a->begin < b->begin; });
   return found;
 }
 
 std::vector<mtext::marks::selection> selections_of(const mtext::geom_multitext& text) {
   auto found = mtext::marks::selections_of(text.marks);
-  std::stable_sort(found.begin(), found.end(), [](const auto& a, const auto& b) { return a.begin < b.begin; });
+  std::stable_sort(found.begin(), found.end(),
+                   [](const auto& a, const auto& b) { return a.begin < b.begin; });
   return found;
 }
 

@@ -49,7 +49,8 @@ std::uint32_t alignment_of(OdDb::TextHorzMode mode) {
 /// The frame of one line that never wraps, placed so that its letters stand where the entity has them.
 text_frame frame_of(const OdDbText& source, const mtext::font_metrics& font) {
   const bool middle = source.horizontalMode() == OdDb::kTextMid;
-  const bool aligned = source.horizontalMode() == OdDb::kTextAlign || source.horizontalMode() == OdDb::kTextFit;
+  const bool aligned =
+      source.horizontalMode() == OdDb::kTextAlign || source.horizontalMode() == OdDb::kTextFit;
   const bool at_start = source.isDefaultAlignment() || aligned;
   text_frame frame;
   frame.normal = source.normal().normal();
@@ -70,7 +71,8 @@ void smart_edit::hide(OdDbEntity& source) {
 }
 
 void smart_edit::takeOrigin() {
-  m_origin = {m_editable->contentsText(), m_editable->text().info, m_editable->frame(), m_editable->styleId()};
+  m_origin = {m_editable->contentsText(), m_editable->text().info, m_editable->frame(),
+              m_editable->styleId()};
 }
 
 void smart_edit::startEditing(const session_start& start) {

@@ -35,7 +35,8 @@ void smart_edit::writeColumns(OdDbMText& target) {
 void smart_edit::write(OdDbMText& target) {
   // The entity keeps its own spelling of a text that came out as it went in.
   if (textChanged())
-    target.setContents(m_editable->hasFields() ? m_editable->evaluatedContentsText() : m_editable->contentsText());
+    target.setContents(m_editable->hasFields() ? m_editable->evaluatedContentsText()
+                                               : m_editable->contentsText());
   if (m_editable->styleId() != m_origin.style) target.setTextStyle(m_editable->styleId());
   if (!same_columns(m_editable->text().info.columns, m_origin.info.columns)) writeColumns(target);
   if (m_editable->textHeight() != m_origin.info.height) target.setTextHeight(m_editable->textHeight());

@@ -29,7 +29,8 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
   if (!handled) session.setKeyDown(false);
 
   session.repaint(redraw_request::kGadgets);
-  if (!row || row->effect != key_effect::moves) session.repaint(redraw_request::kGadgets | redraw_request::kText);
+  if (!row || row->effect != key_effect::moves)
+    session.repaint(redraw_request::kGadgets | redraw_request::kText);
   host::update_now();
   alive->endOfEdit(/*relayout=*/true);
 }

@@ -16,15 +16,17 @@
 
 /// How a session begins.
 struct session_start {
-  std::optional<OdGePoint3d> caret_at = {};  ///< world point for the caret; without one it stands at the start
-  bool is_new = false;                       ///< the entity is not in the drawing yet
-  bool compact = false;                      ///< a session with few tools; an empty text is written too
+  std::optional<OdGePoint3d> caret_at =
+      {};                ///< world point for the caret; without one it stands at the start
+  bool is_new = false;   ///< the entity is not in the drawing yet
+  bool compact = false;  ///< a session with few tools; an empty text is written too
 };
 
-/// One interactive edit of one text in the drawing view. It lives on the stack of the command's function, while the
-/// command waits at the prompt: all editing happens in that wait, through the message filter.
+/// One interactive edit of one text in the drawing view. It lives on the stack of the command's function,
+/// while the command waits at the prompt: all editing happens in that wait, through the message filter.
 ///
-/// It owns the pieces that do the work and knows how they fit together; what each does stands in its own file.
+/// It owns the pieces that do the work and knows how they fit together; what each does stands in its own
+/// file.
 class smart_edit : public MTextEditor {
  public:
   /// Puts the layers and the filter in place. `host` has to outlive the session.
@@ -35,8 +37,8 @@ class smart_edit : public MTextEditor {
 
   // ---- session_begin.cpp
 
-  /// Hides `source` and opens its text. The entity has to be open for write. Throws `OdError_NotThatKindOfClass`
-  /// when its style or field is of another class. Always true.
+  /// Hides `source` and opens its text. The entity has to be open for write. Throws
+  /// `OdError_NotThatKindOfClass` when its style or field is of another class. Always true.
   bool beginMTextEdit(OdDbMTextPtr source, const session_start& start = {});
   /// The same for a single-line text, which is selected whole.
   bool beginTextEdit(OdDbTextPtr source, const session_start& start = {});
@@ -45,9 +47,9 @@ class smart_edit : public MTextEditor {
 
   // ---- session_finish.cpp
 
-  /// Writes the text into its entity if `accept`, and shows the entity again. An empty text is not accepted unless
-  /// `force`. A text that is as it was opened writes nothing. Returns whether it was accepted in the end; without
-  /// an entity returns `accept`.
+  /// Writes the text into its entity if `accept`, and shows the entity again. An empty text is not accepted
+  /// unless `force`. A text that is as it was opened writes nothing. Returns whether it was accepted in the
+  /// end; without an entity returns `accept`.
   bool finishEdit(bool accept, bool force);
 
   void pushUndoStep(int kind);
@@ -65,8 +67,8 @@ class smart_edit : public MTextEditor {
 
   /// Sets the redraw bits, flushes them and has the host paint.
   void repaint(unsigned layers);
-  /// The point of the text's plane that is seen at a world point, in text coordinates; none when the view looks
-  /// along the plane.
+  /// The point of the text's plane that is seen at a world point, in text coordinates; none when the view
+  /// looks along the plane.
   std::optional<OdGePoint2d> textPoint(const OdGePoint3d& world) const;
 
   ExMTextEditable& editable() { return *m_editable; }

@@ -7,12 +7,12 @@
 /// refers to. Text coordinates have their origin at the top left corner of that box, x along the direction,
 /// and run into negative y.
 struct text_frame {
-  OdGePoint3d location{};                              ///< the entity's insertion point, world coordinates
-  OdGeVector3d normal = OdGeVector3d::kZAxis;          ///< length 1
-  OdGeVector3d direction = OdGeVector3d::kXAxis;       ///< of the lines; length 1, in the plane
-  double width = 0;                                    ///< of the box, drawing units; 0 where lines do not wrap
-  double height = 0;                                   ///< of the box; 0 where none is set
-  int attachment = 0;                                  ///< 0 top left to 8 bottom right, row by row
+  OdGePoint3d location{};                         ///< the entity's insertion point, world coordinates
+  OdGeVector3d normal = OdGeVector3d::kZAxis;     ///< length 1
+  OdGeVector3d direction = OdGeVector3d::kXAxis;  ///< of the lines; length 1, in the plane
+  double width = 0;                               ///< of the box, drawing units; 0 where lines do not wrap
+  double height = 0;                              ///< of the box; 0 where none is set
+  int attachment = 0;                             ///< 0 top left to 8 bottom right, row by row
 
   OdGeVector3d up() const { return normal.crossProduct(direction); }
   /// From the top left corner to the insertion point, for the present attachment.

@@ -30,9 +30,9 @@ struct UndoSnapshot {
 /// Steps have no bound: a session is short.
 class undo_stack {
  public:
-  /// Opens or continues a run: takes a snapshot of `text` unless the run has this kind already, or `kind` is 0.
-  /// Redo is dropped only while there is nothing to undo; with steps left, a later redo deliberately brings back
-  /// a state from before the new edit.
+  /// Opens or continues a run: takes a snapshot of `text` unless the run has this kind already, or `kind` is
+  /// 0. Redo is dropped only while there is nothing to undo; with steps left, a later redo deliberately
+  /// brings back a state from before the new edit.
   void push(int kind, const ExMTextEditable& text);
   /// Goes one step back; false if there is none. The run ends in either case.
   bool undo(ExMTextEditable& text);

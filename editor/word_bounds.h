@@ -7,8 +7,8 @@
 /// Where words begin and end for the caret keys. Positions are indices into the parts, as everywhere.
 namespace editing {
 
-/// The place that Ctrl+Left goes to from `position`: in front of the word to the left, over the blanks between.
-/// A break to the left is a stop of its own.
+/// The place that Ctrl+Left goes to from `position`: in front of the word to the left, over the blanks
+/// between. A break to the left is a stop of its own.
 std::size_t word_start(const mtext::geom_multitext& text, std::size_t position);
 
 /// The place that Ctrl+Right goes to from `position`: behind the word to the right and the blanks after it.

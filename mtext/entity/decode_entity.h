@@ -14,8 +14,8 @@ struct entity_contents {
   fields_map fields;
 };
 
-/// The contents of an entity; from its field "TEXT" where it has one. Throws `OdError_NotThatKindOfClass` when
-/// that is no field.
+/// The contents of an entity; from its field "TEXT" where it has one. Throws `OdError_NotThatKindOfClass`
+/// when that is no field.
 entity_contents contents_of(const OdSmartPtr<OdDbMText>& entity);
 
 /// The laid-out text of an entity; an empty one for null.

@@ -10,7 +10,8 @@ namespace mtext {
 
 namespace {
 
-/// Ink of the underline: below the baseline by the depth of the part, which a shape font's own depth overstates.
+/// Ink of the underline: below the baseline by the depth of the part, which a shape font's own depth
+/// overstates.
 double score_distance(const geom_word& word) {
   return word.format.is_shx ? (word.size.above - word.size.below) / 2 : word.size.below;
 }
@@ -31,12 +32,14 @@ void draw_word(const geom_word& word, part_pen& pen) {
 void draw_box(const geom_part& part, OdGiGeometry& geometry) {
   const double left = part.x, right = part.x + part.size.advance;
   const double top = part.y + part.size.above, bottom = part.y - part.size.below;
-  geometry.polyline({{left, bottom, 0}, {right, bottom, 0}, {right, top, 0}, {left, top, 0}, {left, bottom, 0}});
+  geometry.polyline(
+      {{left, bottom, 0}, {right, bottom, 0}, {right, top, 0}, {left, top, 0}, {left, bottom, 0}});
 }
 
 OdCmEntityColor color_of(const format::text_color& color, const part_drawing& drawing) {
   if (color.kind == 0)
-    return color.index == OdCmEntityColor::kACIbyLayer ? drawing.layer_color : OdCmEntityColor::fromIndex(color.index);
+    return color.index == OdCmEntityColor::kACIbyLayer ? drawing.layer_color
+                                                       : OdCmEntityColor::fromIndex(color.index);
   const bool is_unset = color == format::text_color{};
   return is_unset ? drawing.text_color : OdCmEntityColor(color.red, color.green, color.blue);
 }

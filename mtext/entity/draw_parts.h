@@ -15,8 +15,8 @@ struct part_drawing {
   bool draft = false;           ///< boxes instead of letters, for what has to be quick
 };
 
-/// Draws the letters and stacks of a laid-out text in text coordinates, each where layout put it, with its colour,
-/// underline and overline. The traits are afterwards what they were.
+/// Draws the letters and stacks of a laid-out text in text coordinates, each where layout put it, with its
+/// colour, underline and overline. The traits are afterwards what they were.
 void draw_parts(const geom_multitext& text, OdGiGeometry& geometry, const OdGiFontContext& fonts,
                 const part_drawing& drawing);
 

@@ -24,7 +24,8 @@ string_metrics dtext_size_finder::measure(const format::string& format, std::u16
 
 std::uint32_t vertical_attachment(OdDb::TextHorzMode horizontal, OdDb::TextVertMode vertical) {
   if (vertical == OdDb::kTextBottom) return dtext_size_finder::attached_bottom;
-  if (vertical == OdDb::kTextVertMid || horizontal == OdDb::kTextMid) return dtext_size_finder::attached_middle;
+  if (vertical == OdDb::kTextVertMid || horizontal == OdDb::kTextMid)
+    return dtext_size_finder::attached_middle;
   return dtext_size_finder::attached_top;
 }
 

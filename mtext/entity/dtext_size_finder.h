@@ -5,8 +5,8 @@
 
 namespace mtext {
 
-/// Measures single-line text: its lines have the font's depth whatever their letters, and a slanted line keeps
-/// its reference point under the height at which it is attached.
+/// Measures single-line text: its lines have the font's depth whatever their letters, and a slanted line
+/// keeps its reference point under the height at which it is attached.
 class dtext_size_finder : public mtext_size_finder {
  public:
   /// Where the line is attached across its height.

@@ -20,7 +20,8 @@ constexpr double kGutterFactor = 0.2;
 bool is_zero(double height) { return std::abs(height) <= kNoHeight; }
 
 double style_height(const OdDbTextStyleTableRecord& style, const OdDbDatabase* database) {
-  if (is_zero(style.textSize())) return database ? database->getSysVarDouble(u"TEXTSIZE", kUsualHeight) : kUsualHeight;
+  if (is_zero(style.textSize()))
+    return database ? database->getSysVarDouble(u"TEXTSIZE", kUsualHeight) : kUsualHeight;
   return (database ? database->getSysVarDouble(u"DIMSCALE", 1.0) : 1.0) * style.textSize();
 }
 
@@ -46,7 +47,8 @@ void take_font(format::string& result, const OdDbTextStyleTableRecord& style) {
 void take_columns(column_settings& columns, const OdDbMText& entity) {
   const int type = entity.getColumnType();
   if (type == OdDb::kNoColumns) {
-    columns = {.width = entity.width(), .gutter = kGutterFactor * entity.width(), .heights = {entity.height()}};
+    columns = {
+        .width = entity.width(), .gutter = kGutterFactor * entity.width(), .heights = {entity.height()}};
     return;
   }
   if (type != OdDb::kStaticColumns && type != OdDb::kDynamicColumns) return;
@@ -61,7 +63,8 @@ void take_columns(column_settings& columns, const OdDbMText& entity) {
   } else {
     columns.kind = 1;
     columns.heights.clear();
-    for (std::size_t i = 0; i < count; ++i) columns.heights.push_back(entity.getColumnHeight(static_cast<int>(i)));
+    for (std::size_t i = 0; i < count; ++i)
+      columns.heights.push_back(entity.getColumnHeight(static_cast<int>(i)));
   }
   // Layout needs one height at least; a file may count no column.
   if (columns.heights.empty()) columns.heights = {entity.height()};

@@ -9,12 +9,12 @@ class OdDbDatabase;
 
 namespace mtext {
 
-/// What the text of an entity looks like where no code says otherwise. Throws `OdError_NotThatKindOfClass` when
-/// its style is none.
+/// What the text of an entity looks like where no code says otherwise. Throws `OdError_NotThatKindOfClass`
+/// when its style is none.
 format::string default_mtext_format(OdSmartPtr<OdDbMText> entity);
 
-/// Font, width factor and slant of a text style, with the height that the style asks for, or else the drawing.
-/// Throws `OdError_NotThatKindOfClass` when `style` is none.
+/// Font, width factor and slant of a text style, with the height that the style asks for, or else the
+/// drawing. Throws `OdError_NotThatKindOfClass` when `style` is none.
 format::string style_format(OdDbObjectId style, const OdDbDatabase* database);
 
 /// The frame of an entity's text. The entity's line spacing is not read: it keeps its default.

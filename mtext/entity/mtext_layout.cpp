@@ -22,7 +22,8 @@ geom_multitext laid_out(const OdDbMText& text) {
   const auto entity = pointer_to(text);
   const auto contents = contents_of(entity);
   const mtext_size_finder finder{OdDbDatabasePtr(text.database())};
-  return decode(contents.text.str(), default_mtext_format(entity), drawn_convert_info(entity), finder, contents.fields);
+  return decode(contents.text.str(), default_mtext_format(entity), drawn_convert_info(entity), finder,
+                contents.fields);
 }
 
 /// From the entity's location to the origin of the laid-out text.
@@ -70,8 +71,9 @@ void mtext_layout::draw(const OdDbMText& text, OdGiWorldDraw& draw) {
   const OdGeVector2d offset = origin_offset(laid);
   OdGiGeometry& geometry = draw.geometry();
   geometry.pushModelTransform(OdGeMatrix3d::translation({offset.x, offset.y, 0}));
-  draw_parts(laid, geometry, *text.database(),
-             {.text_color = geometry.traits().trueColor(), .layer_color = draw.context().layerColor(text.layer())});
+  draw_parts(
+      laid, geometry, *text.database(),
+      {.text_color = geometry.traits().trueColor(), .layer_color = draw.context().layerColor(text.layer())});
   geometry.popModelTransform();
 }
 

@@ -12,8 +12,8 @@ class mtext_layout : public OdDbMTextLayout {
   void draw(const OdDbMText& text, OdGiWorldDraw& draw) override;
 };
 
-/// Width and height of the box that a text's attachment refers to: of all columns that its settings or its layout
-/// have, and of the highest of them. 0 where none is set.
+/// Width and height of the box that a text's attachment refers to: of all columns that its settings or its
+/// layout have, and of the highest of them. 0 where none is set.
 OdGeVector2d attachment_box(const geom_multitext& text);
 
 }  // namespace mtext

@@ -46,7 +46,8 @@ font_metrics metrics_of(const OdFont& font, double height) {
 
 string_metrics look_at(const OdGiTextStyle& style, const font_metrics& font, std::u16string_view text) {
   OdGePoint3d minimum, maximum, end;
-  OdGiDefaultContext().textExtentsBox(style, text.data(), static_cast<int>(text.size()), 0, minimum, maximum, end);
+  OdGiDefaultContext().textExtentsBox(style, text.data(), static_cast<int>(text.size()), 0, minimum, maximum,
+                                      end);
   return {.head = font.head,
           .above = font.above,
           .below = font.below,
@@ -79,7 +80,9 @@ mtext_size_finder::measured_style& mtext_size_finder::style_of(const format::str
   return *entry;
 }
 
-font_metrics mtext_size_finder::font_metrics(const format::string& format) const { return style_of(format).font; }
+font_metrics mtext_size_finder::font_metrics(const format::string& format) const {
+  return style_of(format).font;
+}
 
 string_metrics mtext_size_finder::measure(const format::string& format, std::u16string_view text) const {
   measured_style& known = style_of(format);

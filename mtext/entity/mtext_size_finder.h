@@ -11,8 +11,9 @@ class OdGiTextStyle;
 
 namespace mtext {
 
-/// Measures through the drawing library, with the fonts of a database. It remembers what it measured, by format
-/// and text, so that a text of many equal letters costs one look at each; the numbers are those of the first look.
+/// Measures through the drawing library, with the fonts of a database. It remembers what it measured, by
+/// format and text, so that a text of many equal letters costs one look at each; the numbers are those of the
+/// first look.
 class mtext_size_finder : public string_size_finder {
  public:
   explicit mtext_size_finder(OdSmartPtr<OdDbDatabase> database);

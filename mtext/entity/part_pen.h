@@ -9,8 +9,8 @@
 
 namespace mtext {
 
-/// Draws pieces of text by their character format. It keeps the style of the last one, since neighbours mostly
-/// share theirs.
+/// Draws pieces of text by their character format. It keeps the style of the last one, since neighbours
+/// mostly share theirs.
 class part_pen {
  public:
   /// Both have to outlive the pen.

@@ -63,8 +63,8 @@ json redo(session_subject& subject, const json&) {
 
 session_step find_input_step(const std::string& name) {
   static const std::map<std::string, session_step> steps{
-      {"key", press_key}, {"char", type_character}, {"press", press}, {"drag", drag}, {"release", release},
-      {"double_click", double_click}, {"undo", undo}, {"redo", redo}};
+      {"key", press_key},   {"char", type_character},       {"press", press}, {"drag", drag},
+      {"release", release}, {"double_click", double_click}, {"undo", undo},   {"redo", redo}};
   const auto found = steps.find(name);
   return found == steps.end() ? nullptr : found->second;
 }

@@ -8,7 +8,8 @@
 
 namespace conformance {
 
-/// What the steps of one `session` request work on: a session without a window on a text that no entity holds.
+/// What the steps of one `session` request work on: a session without a window on a text that no entity
+/// holds.
 class session_subject {
  public:
   explicit session_subject(const json& in);

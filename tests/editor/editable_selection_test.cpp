@@ -32,7 +32,9 @@ TEST(Moves, ctrl_left_directly_after_a_line_break_stops_before_the_break) {
   EXPECT_EQ(edit("ab↵|cd", "Ctrl+Left"), "ab|↵cd");
 }
 
-TEST(Moves, ctrl_right_goes_behind_the_blanks_of_a_word) { EXPECT_EQ(edit("|one  two", "Ctrl+Right"), "one  |two"); }
+TEST(Moves, ctrl_right_goes_behind_the_blanks_of_a_word) {
+  EXPECT_EQ(edit("|one  two", "Ctrl+Right"), "one  |two");
+}
 
 TEST(Moves, a_stack_is_a_letter_of_its_word) { EXPECT_EQ(edit("|a½b c", "Ctrl+Right"), "a½b |c"); }
 
@@ -57,7 +59,9 @@ TEST(Moves, end_at_a_soft_wrap_shows_the_caret_on_the_upper_line) {
   EXPECT_TRUE(text.text().selections()[0].at_line_end);
 }
 
-TEST(Moves, down_on_the_last_line_goes_to_the_end_of_the_text) { EXPECT_EQ(edit("ab¶c|de", "Down"), "ab¶cde|"); }
+TEST(Moves, down_on_the_last_line_goes_to_the_end_of_the_text) {
+  EXPECT_EQ(edit("ab¶c|de", "Down"), "ab¶cde|");
+}
 
 TEST(Moves, up_on_the_first_line_goes_to_position_0) { EXPECT_EQ(edit("ab|c", "Up"), "|abc"); }
 
@@ -65,7 +69,9 @@ TEST(Moves, up_and_down_read_the_caret_s_place_afresh_at_each_step) {
   EXPECT_EQ(edit("abcd¶e¶fgh|i", "Up*2"), "a|bcd¶e¶fghi");
 }
 
-TEST(Moves, ctrl_alt_down_adds_a_caret_below) { EXPECT_EQ(edit("ab|cd¶efgh", "Ctrl+Alt+Down"), "ab|cd¶ef|gh"); }
+TEST(Moves, ctrl_alt_down_adds_a_caret_below) {
+  EXPECT_EQ(edit("ab|cd¶efgh", "Ctrl+Alt+Down"), "ab|cd¶ef|gh");
+}
 
 TEST(Moves, ctrl_alt_up_adds_a_caret_above) { EXPECT_EQ(edit("abcd¶ef|gh", "Ctrl+Alt+Up"), "ab|cd¶ef|gh"); }
 

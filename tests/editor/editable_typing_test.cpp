@@ -23,8 +23,9 @@ TEST(Typing, a_character_beyond_the_basic_plane_comes_as_two_messages_and_is_one
   edited_text text("a|b");
   text.send({.number = WM_CHAR, .code = 0xD83D});
   text.send({.number = WM_CHAR, .code = 0xDE00});
-  EXPECT_EQ(text.codes(), "a\xF0\x9F\x98\x80"
-                          "b");
+  EXPECT_EQ(text.codes(),
+            "a\xF0\x9F\x98\x80"
+            "b");
 }
 
 TEST(Typing, codes_are_letters) {
@@ -77,7 +78,8 @@ TEST(Typing, ctrl_t_is_refused_at_100_columns) {
 }
 
 TEST(Typing, several_carets_equal_one_caret_repeated_from_the_end) {
-  for (const char* keys : {"x", "Enter", "Shift+Enter", "Backspace", "Delete", "Tab", "x y Backspace", "Ctrl+Shift+Space"}) {
+  for (const char* keys :
+       {"x", "Enter", "Shift+Enter", "Backspace", "Delete", "Tab", "x y Backspace", "Ctrl+Shift+Space"}) {
     edited_text together("ab|cd ef|gh¶ij|kl");
     together.keys(keys);
     edited_text one("abcd efgh¶ij|kl");

@@ -75,9 +75,10 @@ char16_t sign_of(const mtext::geom_part& part) {
 
 const std::map<std::string, unsigned, std::less<>>& named_keys() {
   static const std::map<std::string, unsigned, std::less<>> keys{
-      {"Backspace", VK_BACK}, {"Enter", VK_RETURN}, {"Esc", VK_ESCAPE}, {"PageUp", VK_PRIOR}, {"PageDown", VK_NEXT},
-      {"End", VK_END},        {"Home", VK_HOME},    {"Left", VK_LEFT},  {"Up", VK_UP},        {"Right", VK_RIGHT},
-      {"Down", VK_DOWN},      {"Insert", VK_INSERT}, {"Delete", VK_DELETE}};
+      {"Backspace", VK_BACK}, {"Enter", VK_RETURN}, {"Esc", VK_ESCAPE}, {"PageUp", VK_PRIOR},
+      {"PageDown", VK_NEXT},  {"End", VK_END},      {"Home", VK_HOME},  {"Left", VK_LEFT},
+      {"Up", VK_UP},          {"Right", VK_RIGHT},  {"Down", VK_DOWN},  {"Insert", VK_INSERT},
+      {"Delete", VK_DELETE}};
   return keys;
 }
 
@@ -96,7 +97,8 @@ edited_text::edited_text(const OdString& codes, const mtext::convert_info& info,
   text().setDatabaseDefaults(&m_application->document().database());
   text().setFinder(std::make_shared<mtext::stub_finder>());
   text().setLayoutInfo(info);
-  text().setFrame({.width = info.columns.width, .height = info.columns.heights[0], .attachment = text().attachment()});
+  text().setFrame(
+      {.width = info.columns.width, .height = info.columns.heights[0], .attachment = text().attachment()});
   text().setDefaultFormat({.height = info.height, .height_kind = 0});
   text().setContents(codes);
   text().load();

@@ -8,9 +8,9 @@
 
 /// A session without a window on a text that no entity holds, measured by rule: base height 2.5, no wrapping.
 ///
-/// Texts are written as one draws them: `|` a caret, `[` and `]` a selection with its caret at `]`, `{` and `}` one
-/// with its caret at `{`; `¶` a paragraph end, `↵` a line end, `→` a tab, `‖` a column break, `~` a space that does not
-/// break, `½` a stack.
+/// Texts are written as one draws them: `|` a caret, `[` and `]` a selection with its caret at `]`, `{` and
+/// `}` one with its caret at `{`; `¶` a paragraph end, `↵` a line end, `→` a tab, `‖` a column break, `~` a
+/// space that does not break, `½` a stack.
 class edited_text {
  public:
   /// A session on format codes; the caret stands at 0.
@@ -18,8 +18,9 @@ class edited_text {
 
   explicit edited_text(std::string_view drawn, const mtext::convert_info& info = {});
 
-  /// Types keys, blanks between them: `x` a character, `Left`, `Ctrl+Alt+Down`, `Enter`, `Space`, `Tab`; `*3` behind a
-  /// key is its repeat count. `Space` and letters are the key and its character, as a keyboard sends them.
+  /// Types keys, blanks between them: `x` a character, `Left`, `Ctrl+Alt+Down`, `Enter`, `Space`, `Tab`; `*3`
+  /// behind a key is its repeat count. `Space` and letters are the key and its character, as a keyboard sends
+  /// them.
   edited_text& keys(std::string_view list);
   /// The text with carets and selections.
   std::string drawn() const;
@@ -42,7 +43,9 @@ class edited_text {
 };
 
 /// What becomes of a text when keys are typed in it.
-inline std::string edit(std::string_view before, std::string_view keys) { return edited_text(before).keys(keys).drawn(); }
+inline std::string edit(std::string_view before, std::string_view keys) {
+  return edited_text(before).keys(keys).drawn();
+}
 
 /// Wrapping width 16: five letters and a blank, twice, fill a line.
 mtext::convert_info wrapping(double width);

@@ -68,7 +68,8 @@ TEST(Undo, a_cursor_move_alone_pushes_no_step) {
 }
 
 TEST(Undo, after_do_is_identity) {
-  for (const char* keys : {"x", "Enter", "Shift+Enter", "Backspace", "Delete", "Tab", "Ctrl+x", "Ctrl+Backspace"}) {
+  for (const char* keys :
+       {"x", "Enter", "Shift+Enter", "Backspace", "Delete", "Tab", "Ctrl+x", "Ctrl+Backspace"}) {
     edited_text text("ab|cd [ef]gh¶ij|kl");
     const std::string before = text.drawn(), codes = text.codes();
     text.keys(keys).keys("Ctrl+z");

@@ -1,0 +1,52 @@
+#include "tests/commands/command_run.h"
+
+#include "commands/mtext_create.h"
+#include "commands/mtext_edit.h"
+#include "mtext/entity/mtext_layout.h"
+#include "od/db/OdDbBlockTableRecord.h"
+#include "ui/resources/strings.h"
+
+namespace {
+
+template <class Command>
+int run() {
+  const OdSmartPtr<ICmdProcess> command(new Command, kOdRxObjAttach);
+  const int status = command->run();
+  return status == command->status() ? status : -1;
+}
+
+}  // namespace
+
+command_run::command_run() : database(OdDbDatabase::createEmpty()), application(database) {
+  resources::register_strings();
+  database->setTextLayout(std::make_shared<mtext::mtext_layout>());
+}
+
+OdDbMTextPtr command_run::addText(const OdString& contents, const OdGePoint3d& location) {
+  auto text = odNew<OdDbMText>();
+  text->setDatabaseDefaults(database.get());
+  text->setContents(contents);
+  text->setTextHeight(2.5);
+  text->setWidth(40);
+  text->setLocation(location);
+  const auto space = odCast<OdDbBlockTableRecord>(database->getModelSpaceId().openObject(OdDb::kForWrite));
+  space->appendOdDbEntity(text.get());
+  return text;
+}
+
+void command_run::type(std::u16string_view characters) {
+  for (const char16_t each : characters) application.input().message({.number = WM_CHAR, .code = each});
+}
+
+void command_run::key(unsigned code, const HostHeldKeys::Keys& held) {
+  application.input().message({.number = WM_KEYDOWN, .code = code, .shift = held.shift, .ctrl = held.ctrl});
+  application.input().message({.number = WM_KEYUP, .code = code});
+}
+
+int command_run::create() { return run<CMTCreateCmd>(); }
+
+int command_run::edit() { return run<CMTextEditCmd>(); }
+
+std::vector<OdDbObjectId> command_run::entities() const {
+  return odCast<OdDbBlockTableRecord>(database->getModelSpaceId().openObject())->entities();
+}
