@@ -4,7 +4,7 @@ namespace samples {
 namespace {
 
 constexpr std::u16string_view kNotes =
-    u"{\\fArial|b1|i0|c0|p34;\\H1.6x;\\C5;Notes}\\P"
+    u"{\\fArial|b1|i0|c0|p34;\\H1.6x;\\C150;Notes}\\P"
     u"\\pxi-3,l3,t3;1.\tAll dimensions are in millimetres and must be checked on site before work begins.\\P"
     u"2.\tDo not scale from this drawing. If in doubt, {\\C1;ask}.\\P"
     u"3.\tPartition walls: metal studs 75, plasterboard 2 \u00D7 12.5 on both sides, {\\fTimes New "
@@ -14,7 +14,7 @@ constexpr std::u16string_view kNotes =
     u"{\\H0.7x;\\S3/4;}\".\\P"
     u"5.\tLettering on doors in {\\Fsimplex.shx|c0;simplex}, capitals {\\Lunderlined\\l}, {\\Ocrossed "
     u"above\\o} "
-    u"or {\\Kstruck\\k}.\\P"
+    u"or {\\H0.7x;small}.\\P"
     u"\\pxi0,l0,tz;\\P"
     u"\\pxqc;{\\C3;\u2014 centred: mind the step \u2014}\\P"
     u"\\pxqr;set to the right, 21 %%dC\\P"
@@ -60,7 +60,7 @@ void write_notes(Sheet& sheet) {
                     .at = {1400, 3700},
                     .height = 110,
                     .width = 9200,
-                    .columns = {.count = 2, .width = 4450, .gutter = 300, .height = 2700}});
+                    .columns = {.count = 2, .width = 4450, .gutter = 300, .height = 1500}});
   sheet.paragraphs({.text = u"{\\fArial|b1|i0|c0|p34;\\C1;PRELIMINARY}\\P\\H0.5x;not for construction",
                     .at = {17600, 4500},
                     .height = 250,

@@ -58,7 +58,7 @@ void set_up(Sheet& sheet) {
   sheet.add_layer("ROOMS", 2, 25);
   sheet.add_layer("DIMENSIONS", 1, 18);
   sheet.add_layer("NOTES", 7, 25);
-  sheet.add_layer("SHEET", 5, 35);
+  sheet.add_layer("SHEET", 150, 35);
   sheet.add_style("Notes", "times.ttf", u"Times New Roman", 18);
   sheet.add_style("Lettering", "simplex.shx", u"", 0);
   sheet.set_layer("0");

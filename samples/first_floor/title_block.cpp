@@ -45,8 +45,8 @@ void draw_title_block(Sheet& sheet) {
   sheet.paragraphs({.text =
                         u"{\\fArial|b1|i0|c0|p34;Office in Mill Lane}\\P"
                         u"{\\H0.6x;First floor, ground plan\\P{\\C8;Conversion of a workshop into offices}}",
-                    .at = {kLeft + 150, kTop - 150},
-                    .height = 400,
+                    .at = {kLeft + 150, kTop - 120},
+                    .height = 330,
                     .width = 6500});
   sheet.text(
       {.text = u"Rev. A", .at = {kRight - 150, kTop - 150}, .height = 175, .horizontal = 2, .vertical = 3});
