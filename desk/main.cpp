@@ -12,6 +12,21 @@
 
 namespace {
 
+/// Whether the toolkit can be expected to open a window.
+bool hasDisplay() {
+  return qEnvironmentVariableIsSet("QT_QPA_PLATFORM") || qEnvironmentVariableIsSet("DISPLAY") ||
+         qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
+}
+
+/// A root shell often has no runtime folder. The toolkit then takes another, and warns its user of something
+/// that makes no difference here.
+void beQuietAboutRuntimeFolder() {
+  static QtMessageHandler before = nullptr;
+  before = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (!text.contains("XDG_RUNTIME_DIR")) before(type, context, text);
+  });
+}
+
 /// What each way to call the program does, and the surroundings that it needs.
 struct Performer {
   int& count;
@@ -27,11 +42,17 @@ struct Performer {
     return runScript(options);
   }
   int operator()(const RenderOptions& options) const {
+    beQuietAboutRuntimeFolder();
     qputenv("QT_QPA_PLATFORM", "offscreen");
     const QGuiApplication application(count, words);
     return renderDrawing(options);
   }
   int operator()(const WindowOptions& options) const {
+    if (!hasDisplay()) {
+      std::cerr << "There is no display to open a window on; run, render and text work without one.\n";
+      return kExitUsage;
+    }
+    beQuietAboutRuntimeFolder();
     QApplication::setApplicationName("scribe");
     const QApplication application(count, words);
     QApplication::setQuitOnLastWindowClosed(false);

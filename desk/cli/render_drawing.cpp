@@ -1,6 +1,7 @@
 #include "desk/cli/render_drawing.h"
 
 #include <QPainter>
+#include <iostream>
 
 #include "desk/cli/exit_code.h"
 #include "desk/cli/picture_file.h"
@@ -29,6 +30,8 @@ int renderDrawing(const RenderOptions& options) {
   const OdGsView view = viewOf(*database, options, colors);
   DrawingPictures pictures(*database);
   pictures.refresh(view);
+  for (const OdString& sentence : pictures.diagnostics())
+    std::cerr << options.drawing.string() << ": " << sentence.toUtf8() << '\n';
   const QRectF all(QPointF(0, 0), QSizeF(options.size));
   writePicture(options.output, options.size, colors.background(), [&](QPainter& painter, double lineWidth) {
     paintDrawing(painter, pictures, {colors, pictures.frame().toDevice(view), lineWidth},

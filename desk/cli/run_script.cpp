@@ -19,11 +19,16 @@ std::string contentOf(std::istream& stream) {
   return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
 }
 
+/// The script's name in messages.
+std::string nameOf(const std::filesystem::path& file) {
+  return file == "-" ? "standard input" : file.string();
+}
+
 Script scriptOf(const std::filesystem::path& file) {
-  if (file == "-") return readScript(contentOf(std::cin), "standard input");
+  if (file == "-") return readScript(contentOf(std::cin), nameOf(file));
   std::ifstream stream(file, std::ios::binary);
   if (!stream || std::filesystem::is_directory(file)) throw FileError(file, "the script cannot be read.");
-  return readScript(contentOf(stream), file.string());
+  return readScript(contentOf(stream), nameOf(file));
 }
 
 void print(std::u16string_view line) { std::cout << odToUtf8(line) << '\n'; }
@@ -31,7 +36,7 @@ void print(std::u16string_view line) { std::cout << odToUtf8(line) << '\n'; }
 /// Tells what the script left open; whether there was anything.
 bool tellUnanswered(ScriptDesk& desk, const std::string& script) {
   if (desk.document().prompt().unanswered() > 0)
-    std::cerr << script << ": the script ended while \"" << odToUtf8(desk.line().prompt())
+    std::cerr << script << ": the script ended while \"" << odToUtf8(desk.source().promptAtEnd())
               << "\" was asked.\n";
   if (desk.questions().unanswered() > 0)
     std::cerr << script << ": the question \"" << odToUtf8(desk.questions().shown().back())
@@ -46,7 +51,7 @@ int runScript(const RunOptions& options) {
   ScriptDesk desk(openDrawing(options.drawing), std::move(script), print);
   registerDeskCommands(host::command_factory(), desk);
   desk.run();
-  if (tellUnanswered(desk, options.script.string())) return kExitRefused;
+  if (tellUnanswered(desk, nameOf(options.script))) return kExitRefused;
   if (!options.output.empty()) desk.save(options.output);
   return kExitDone;
 }

@@ -1,5 +1,6 @@
 #include "desk/painter/drawing_pictures.h"
 
+#include <algorithm>
 #include <unordered_set>
 
 #include "desk/painter/picture_recorder.h"
@@ -43,7 +44,14 @@ bool DrawingPictures::refresh(const OdGsView& view) {
     m_pictures.emplace(id, pictureOf(id, recorder, view));
     changed = true;
   }
+  keepDiagnostics(context.diagnostics());
   return changed;
+}
+
+void DrawingPictures::keepDiagnostics(const std::vector<OdString>& sentences) {
+  for (const OdString& sentence : sentences)
+    if (std::find(m_diagnostics.begin(), m_diagnostics.end(), sentence) == m_diagnostics.end())
+      m_diagnostics.push_back(sentence);
 }
 
 void DrawingPictures::forget(const std::vector<OdDbObjectId>& present) {

@@ -5,6 +5,7 @@
 
 #include "desk/painter/picture.h"
 #include "desk/painter/picture_frame.h"
+#include "od/base/OdString.h"
 #include "od/db/OdDbObjectId.h"
 
 class OdDbDatabase;
@@ -23,6 +24,9 @@ class DrawingPictures {
   /// Makes the pictures that are missing, for a camera that looks as `view` does. Whether anything changed.
   bool refresh(const OdGsView& view);
 
+  /// What of the drawing could not be drawn as it says, a sentence each, as of the pictures made so far.
+  const std::vector<OdString>& diagnostics() const { return m_diagnostics; }
+
   const PictureFrame& frame() const { return m_frame; }
   /// The picture of an entity; null for one that is not in the active space.
   const Picture* find(const OdDbObjectId& id) const;
@@ -30,10 +34,12 @@ class DrawingPictures {
   const std::vector<OdDbObjectId>& order() const { return m_order; }
 
  private:
+  void keepDiagnostics(const std::vector<OdString>& sentences);
   void forget(const std::vector<OdDbObjectId>& present);
 
   OdDbDatabase& m_database;
   PictureFrame m_frame;
   std::unordered_map<OdDbObjectId, Picture> m_pictures;
   std::vector<OdDbObjectId> m_order;
+  std::vector<OdString> m_diagnostics;
 };

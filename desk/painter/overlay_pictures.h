@@ -11,8 +11,8 @@ class HostViewOverlay;
 class OdDbDatabase;
 class OdGiDrawable;
 
-/// The pictures of what stands above the drawing. A layer is drawn anew when it was invalidated or the camera
-/// moved, so that a blinking caret does not lay out its text again.
+/// The pictures of what stands above the drawing. A layer is drawn anew when it, or one below it, was
+/// invalidated or the camera moved, so that a blinking caret does not draw its text again.
 class OverlayPictures {
  public:
   /// Makes what is out of date and marks the overlay as painted. Pictures are in `frame`.

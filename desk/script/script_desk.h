@@ -28,7 +28,6 @@ class ScriptDesk : public Desk {
   std::optional<std::filesystem::path> askFileToOpen() override;
   std::optional<std::filesystem::path> askFileToSave(const std::filesystem::path& proposed) override;
 
-  const ScriptCommandLine& line() const { return m_line; }
   const ScriptEvents& questions() const { return m_events; }
   const ScriptSource& source() const { return m_source; }
 

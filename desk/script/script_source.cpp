@@ -12,7 +12,7 @@
 
 HostInput ScriptSource::next() {
   while (m_waiting.empty()) {
-    if (m_at == m_script.size()) return HostEndOfInput{};
+    if (m_at == m_script.size()) return endOfScript();
     perform(m_script[m_at++]);
   }
   HostInput input = std::move(m_waiting.front());
@@ -22,8 +22,12 @@ HostInput ScriptSource::next() {
   return input;
 }
 
+HostInput ScriptSource::endOfScript() {
+  if (m_prompt_at_end.empty()) m_prompt_at_end = m_around.line.prompt();
+  return HostEndOfInput{};
+}
+
 void ScriptSource::perform(const ScriptStep& step) {
-  m_line = step.line;
   if (const auto* line = std::get_if<TypeLine>(&step.what)) type(line->text);
   if (const auto* mouse = std::get_if<MouseStep>(&step.what)) send(messagesOf(*mouse));
   if (const auto* characters = std::get_if<TypeCharacters>(&step.what)) send(messagesOf(*characters));
@@ -53,6 +57,6 @@ std::optional<ScriptAnswer> ScriptSource::takeAnswer() {
   if (m_at == m_script.size()) return std::nullopt;
   const auto* answer = std::get_if<AnswerStep>(&m_script[m_at].what);
   if (!answer) return std::nullopt;
-  m_line = m_script[m_at++].line;
+  ++m_at;
   return answer->answer;
 }

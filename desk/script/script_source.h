@@ -32,10 +32,11 @@ class ScriptSource : public HostInputSource {
   /// The answer that stands in the next step, if it is one; the step is then done. A question may be answered
   /// on the line behind the one that raises it.
   std::optional<ScriptAnswer> takeAnswer();
-  /// Line of the script that was read last; 0 before the first.
-  int line() const { return m_line; }
+  /// What was asked when the script had come to its end; empty before.
+  const std::u16string& promptAtEnd() const { return m_prompt_at_end; }
 
  private:
+  HostInput endOfScript();
   void perform(const ScriptStep& step);
   void type(const std::u16string& line);
   void send(std::vector<HostWindowMessage> messages);
@@ -44,5 +45,5 @@ class ScriptSource : public HostInputSource {
   ScriptSurroundings m_around;
   std::deque<HostInput> m_waiting;
   std::size_t m_at = 0;
-  int m_line = 0;
+  std::u16string m_prompt_at_end;
 };

@@ -24,6 +24,7 @@ CommandPanel::CommandPanel(QWidget* parent)
   m_scrollback->setFocusPolicy(Qt::ClickFocus);
   m_scrollback->setMaximumBlockCount(kScrollbackLines);
   m_scrollback->setMinimumHeight(fontMetrics().lineSpacing() * kVisibleLines + 2 * kMargin);
+  m_scrollback->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Ignored);
   m_edit->setFrame(false);
   m_prompt->setTextFormat(Qt::PlainText);
 

@@ -23,6 +23,8 @@ MainWindow::MainWindow()
   halves->setStretchFactor(0, 1);
   halves->setStretchFactor(1, 0);
   halves->setChildrenCollapsible(false);
+  halves->setSizes(
+      {kFirstSize.height() - m_panel->minimumSizeHint().height(), m_panel->minimumSizeHint().height()});
   setCentralWidget(halves);
   statusBar()->addPermanentWidget(m_coordinates);
   addMenus();

@@ -1,6 +1,7 @@
 #include "desk/window/view_painter.h"
 
 #include <QPainter>
+#include <utility>
 
 #include "desk/document/desk_document.h"
 #include "desk/painter/paint_drawing.h"
@@ -16,6 +17,7 @@ void ViewPainter::setDocument(DeskDocument* document) {
   m_pictures.reset();
   m_overlay = {};
   m_selected.clear();
+  m_diagnostics_taken = 0;
   if (document) m_pictures.emplace(document->database());
   m_ground_is_stale = true;
 }
@@ -34,6 +36,14 @@ void ViewPainter::invalidate(const OdDbObjectId& id) {
 bool ViewPainter::isStale() const {
   return m_ground_is_stale || Camera::of(m_view.gsView()) != m_camera ||
          (m_document && m_document->pickFirst().ids() != m_selected);
+}
+
+std::vector<OdString> ViewPainter::takeDiagnostics() {
+  if (!m_pictures) return {};
+  const std::vector<OdString>& all = m_pictures->diagnostics();
+  const auto first =
+      all.begin() + static_cast<std::ptrdiff_t>(std::exchange(m_diagnostics_taken, all.size()));
+  return {first, all.end()};
 }
 
 void ViewPainter::paint(QPainter& painter, QSize size, double ratio) {

@@ -28,6 +28,8 @@ class ViewPainter {
 
   /// Paints a view of `size` logical pixels, at `ratio` device pixels each.
   void paint(QPainter& painter, QSize size, double ratio);
+  /// Sentences about what could not be drawn as the drawing says, those that were not taken before.
+  std::vector<OdString> takeDiagnostics();
   /// Whether the selection or the camera changed since the last painting.
   bool isStale() const;
 
@@ -43,6 +45,7 @@ class ViewPainter {
   OverlayPictures m_overlay;
   QPixmap m_ground;
   Camera m_camera;
+  std::size_t m_diagnostics_taken = 0;
   std::vector<OdDbObjectId> m_selected;
   bool m_ground_is_stale = true;
 };

@@ -110,6 +110,7 @@ void WindowDesk::beIdle() {
     view.setCursor(Qt::CrossCursor);
   }
   view.paintIfStale();
+  for (const OdString& sentence : view.painter().takeDiagnostics()) m_line.write(sentence.str());
   m_window.showTitle(toQt(textOf(file().filename())), document().database().isModified());
 }
 

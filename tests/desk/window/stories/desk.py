@@ -20,6 +20,19 @@ class Desk:
         self.log = open(folder / "scribe.log", "wb")
         self.process = subprocess.Popen([str(program), str(drawing)], env=self.environment, cwd=folder,
                                         stdout=self.log, stderr=self.log)
+        try:
+            self.open_window()
+        except BaseException:
+            self.end()
+            raise
+
+    def __enter__(self):
+        return self
+
+    def __exit__(self, *_):
+        self.end()
+
+    def open_window(self):
         self.window = self.wait_for_window()
         self.tool("windowsize", "--sync", self.window, "1280", "800")
         self.tool("windowmove", self.window, "0", "0")
@@ -44,25 +57,29 @@ class Desk:
     def picture(self):
         return picture.take(self.display.name)
 
-    def settle(self, box=None, patience=20):
-        """Waits until the display stands still, and gives its picture; a blinking caret is given 20 tries."""
+    def settle(self, patience=20):
+        """Waits until the display stands still, and gives its picture; a caret that blinks ends the patience."""
         before = self.picture()
         for _ in range(patience):
-            time.sleep(0.1)
+            time.sleep(0.05)
             now = self.picture()
-            if before.differences(now, box or (0, 0, now.width, now.height)) == 0:
+            if before.pixels == now.pixels:
                 return now
             before = now
         return before
 
+    def rest(self):
+        """Gives the program the time that a person needs to lift the hand."""
+        time.sleep(0.3)
+
     def type(self, text):
         self.tool("type", "--delay", "12", text)
-        self.settle()
+        self.rest()
 
     def key(self, *chords):
         for chord in chords:
             self.tool("key", "--delay", "12", chord)
-        self.settle()
+        self.rest()
 
     def line(self, text):
         """Types a line at the prompt and ends it with Enter."""
@@ -70,19 +87,41 @@ class Desk:
         self.key("Return")
 
     def click(self, x, y, button=1, repeat=1):
-        self.tool("mousemove", "--sync", x, y)
+        self.tool("mousemove", x, y)
         self.tool("click", "--repeat", repeat, "--delay", "60", button)
-        self.settle()
+        self.rest()
 
-    def close(self):
-        """Ends the program by its window, and gives its exit code."""
-        if self.process.poll() is None:
-            self.tool("windowclose", self.window)
+    def view_box(self):
+        """The inner part of the drawing view: left, top, right, bottom."""
+        return 10, 40, 1270, 640
+
+    def view_middle(self):
+        """A pixel near the middle of the drawing view."""
+        return 640, 340
+
+    def wait_until_saved(self, drawing):
+        """Waits for the backup that every save leaves."""
+        backup = drawing.with_name(drawing.name + ".bak")
+        for _ in range(100):
+            if backup.exists():
+                return
+            time.sleep(0.1)
+        sys.exit("nothing was saved")
+
+    def quit(self, answer=None):
+        """Ends the program with the command Quit and gives its exit code; `answer` is the key for its question."""
+        self.line("Quit")
+        if answer:
+            self.key(answer)
         try:
-            code = self.process.wait(timeout=20)
+            return self.process.wait(timeout=20)
         except subprocess.TimeoutExpired:
+            return None
+
+    def end(self):
+        """Ends what is left of the program and its display."""
+        if self.process.poll() is None:
             self.process.kill()
-            code = self.process.wait()
+            self.process.wait()
         self.log.close()
         self.display.close()
-        return code

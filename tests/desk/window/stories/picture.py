@@ -33,7 +33,7 @@ class Picture:
 
 def take(display):
     """A picture of the whole display."""
-    command = [needed("import"), "-display", display, "-window", "root", "ppm:-"]
+    command = [needed("import"), "-display", display, "-window", "root", "-depth", "8", "ppm:-"]
     return Picture(subprocess.run(command, check=True, capture_output=True).stdout)
 
 

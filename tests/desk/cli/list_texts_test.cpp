@@ -1,0 +1,48 @@
+#include "desk/cli/list_texts.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <nlohmann/json.hpp>
+
+#include "desk/cli/single_line_plain.h"
+#include "tests/desk/cli/program.h"
+
+using testing::HasSubstr;
+
+TEST(ListTexts, a_line_holds_handle_kind_layer_and_text) {
+  sampleCopy();
+  const ProgramRun run = runProgram("text sample.dxf");
+  EXPECT_EQ(run.exit_code, 0);
+  EXPECT_THAT(run.out, HasSubstr("EE\tMTEXT\tNOTES\tTable for 8\\noak, 40 mm\n"));
+}
+
+TEST(ListTexts, json_holds_every_text_with_its_block_and_its_line_ends) {
+  sampleCopy();
+  const auto list = nlohmann::json::parse(runProgram("text sample.dxf --json").out);
+  const auto found =
+      std::find_if(list.begin(), list.end(), [](const auto& each) { return each["handle"] == "EE"; });
+  ASSERT_NE(found, list.end());
+  EXPECT_EQ((*found)["kind"], "MTEXT");
+  EXPECT_EQ((*found)["layer"], "NOTES");
+  EXPECT_EQ((*found)["text"], "Table for 8\noak, 40 mm");
+}
+
+TEST(ListTexts, texts_of_blocks_and_attributes_are_among_them) {
+  sampleCopy();
+  const std::string out = runProgram("text sample.dxf").out;
+  EXPECT_THAT(out, HasSubstr("\tATTRIB\t"));
+  EXPECT_THAT(out, HasSubstr("\tATTDEF\t"));
+}
+
+TEST(SingleLinePlain, percent_codes_become_characters) {
+  EXPECT_EQ(singleLinePlain(u"%%c20 %%p0.5 at 45%%d, 100%%%"), u"\u230020 \u00B10.5 at 45\u00B0, 100%");
+  EXPECT_EQ(singleLinePlain(u"%%uROOM%%u 2"), u"ROOM 2");
+  EXPECT_EQ(singleLinePlain(u"%%065%%228"), u"A\u00E4");
+}
+
+TEST(SingleLinePlain, escapes_become_characters) { EXPECT_EQ(singleLinePlain(u"\\U+03b1x"), u"\u03B1x"); }
+
+TEST(SingleLinePlain, what_is_no_code_stays) {
+  EXPECT_EQ(singleLinePlain(u"5 %% \\U+12 %%9 %%x"), u"5 %% \\U+12 %%9 %%x");
+}

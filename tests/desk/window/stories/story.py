@@ -1,0 +1,74 @@
+"""What the stories have in common: their arguments, their drawing and what an edited text has to look like."""
+
+import argparse
+import pathlib
+import shutil
+
+import drawing_records
+import picture
+
+CARET_BLINK = 0.4
+SHARED = "r2013_mtext_paragraphs_stacks_fields.dxf"
+
+
+class Place:
+    """A part of a drawing that is shown, with a text in its middle."""
+
+    def __init__(self, file, window):
+        self.file, self.window = file, window
+
+
+def arguments():
+    parser = argparse.ArgumentParser()
+    parser.add_argument("program", type=pathlib.Path)
+    parser.add_argument("source", type=pathlib.Path, help="the folder of the project")
+    parser.add_argument("folder", type=pathlib.Path, help="where the story works and leaves its pictures")
+    parser.add_argument("--picture", type=pathlib.Path, help="copies the picture of the open text there")
+    return parser.parse_args()
+
+
+def choose(source, shared_window, sample_window):
+    """The shared drawing with its window if it is there, else the sample with its own."""
+    shared = source.parent / "shared" / "data" / SHARED
+    if shared.exists():
+        return Place(shared, shared_window)
+    print(f"{shared} is absent, the story goes on with samples/first-floor.dxf")
+    return Place(source / "samples" / "first-floor.dxf", sample_window)
+
+
+def prepared(folder, place):
+    """A fresh folder with a copy of the drawing."""
+    shutil.rmtree(folder, ignore_errors=True)
+    folder.mkdir(parents=True)
+    return pathlib.Path(shutil.copy(place.file, folder / "drawing.dxf"))
+
+
+def show(desk, place):
+    """Shows the part of the drawing in the whole view."""
+    desk.line("Zoom")
+    desk.line("Window")
+    desk.line(place.window[0])
+    desk.line(place.window[1])
+    desk.settle()
+
+
+def check_edit(place, drawing, typed):
+    """The saved drawing differs from the old one in one multi-line text, by what was typed."""
+    pairs = drawing_records.changed(place.file, drawing)
+    assert len(pairs) == 1, f"{len(pairs)} records changed instead of one"
+    before, after = pairs[0]
+    assert before[0] == (b"0", b"MTEXT"), f"a record of type {before[0][1]} changed"
+    assert typed not in drawing_records.text_of(before)
+    assert typed in drawing_records.text_of(after), drawing_records.text_of(after)
+    old_text = drawing_records.text_of(before)
+    new_text = drawing_records.text_of(after)
+    assert len(new_text) > len(old_text), "the text did not grow"
+
+
+def keep_picture(desk, options, name):
+    """Leaves a picture in the story's folder, and where the caller wants it."""
+    path = options.folder / name
+    picture.save(desk.display.name, path)
+    if options.picture:
+        options.picture.parent.mkdir(parents=True, exist_ok=True)
+        shutil.copy(path, options.picture)
