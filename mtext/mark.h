@@ -3,6 +3,7 @@
 #include <boost/ptr_container/ptr_vector.hpp>
 #include <cstddef>
 #include <cstdint>
+#include <stdexcept>
 #include <string>
 #include <utility>
 #include <vector>
@@ -97,8 +98,11 @@ inline bool operator==(const index& a, const index& b) {
 class numbering : public solid {
  public:
   numbering() : solid(0, 0, /*with_begin=*/false) {}
+  /// Throws `std::invalid_argument` without levels.
   numbering(std::size_t from, std::size_t to, std::vector<index> levels)
-      : solid(from, to, /*with_begin=*/false), indices(std::move(levels)) {}
+      : solid(from, to, /*with_begin=*/false), indices(std::move(levels)) {
+    if (indices.empty()) throw std::invalid_argument("mtext::marks::numbering: indices must not be empty");
+  }
 
   numbering* clone() const override { return new numbering(*this); }
 
