@@ -93,7 +93,8 @@ OdDbObjectId OdDbDatabase::textStyleOrStandard(const OdString& name) const {
   for (const OdString& wanted : {name, OdString(u"Standard")}) {
     if (const OdDbObjectId style = styles.getAt(wanted)) return style;
   }
-  return styles.records().front();
+  const std::vector<OdDbObjectId> all = styles.records();
+  return all.empty() ? OdDbObjectId() : all.front();
 }
 
 OdDbObjectId OdDbDatabase::getTEXTSTYLE() const {
