@@ -44,7 +44,7 @@ class ExMTextEditable : public OdDbEntity {
   const OdString& contents() const { return m_contents; }
   /// Reads the contents into the text and lays it out. The caret stands at 0.
   void load();
-  /// What measures; kept for the session.
+  /// What measures; kept for the session. Without one `load` measures with the fonts of the database.
   void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
   const mtext::string_size_finder& finder() const { return *m_finder; }
   /// Columns, spacing and the mode of extents. Height, alignment and vertical place follow `setTextHeight`

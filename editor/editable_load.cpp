@@ -1,9 +1,11 @@
 #include "editor/editable.h"
 #include "mtext/dispose.h"
+#include "mtext/entity/mtext_size_finder.h"
 #include "mtext/flatten.h"
 #include "mtext/parse.h"
 #include "mtext/serialize.h"
 #include "mtext/to_geom.h"
+#include "od/db/OdDbDatabase.h"
 
 void ExMTextEditable::setContents(OdString contents, mtext::fields_map fields) {
   m_contents = std::move(contents);
@@ -17,6 +19,7 @@ void ExMTextEditable::setLayoutInfo(const mtext::convert_info& info) {
 }
 
 void ExMTextEditable::load() {
+  if (!m_finder) m_finder = std::make_shared<mtext::mtext_size_finder>(OdDbDatabasePtr(database()));
   mtext::multitext logical;
   mtext::parse(m_contents.str(), m_default_format, logical, m_fields);
   mtext::geom_multitext text = mtext::to_geom(logical, textHeight(), *m_finder);

@@ -91,6 +91,7 @@ bool smart_edit::beginMTextEdit(OdDbMTextPtr source, const session_start& start)
   hide(*source);
   m_editable->setFinder(std::make_shared<mtext::mtext_size_finder>(OdDbDatabasePtr(&m_host.database())));
   m_editable->setLayoutInfo(mtext::drawn_convert_info(source));
+  m_editable->setDefaultFormat(mtext::drawn_mtext_format(source));
   if (source->textStyle()) m_editable->setStyle(source->textStyle(), /*keep_runs=*/true);
   m_editable->setTextHeight(usable(source->textHeight()), /*keep_runs=*/true);
   m_editable->background = background_of(*source);

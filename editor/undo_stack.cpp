@@ -15,7 +15,7 @@ UndoSnapshot taken(const ExMTextEditable& text, int kind) {
 
 void restore(const UndoSnapshot& step, ExMTextEditable& text) {
   if (step.kind == kUndoNone) return;
-  if (step.style) text.setStyle(step.style, false);
+  if (step.style && step.style != text.styleId()) text.setStyle(step.style, /*keep_runs=*/false);
   text.setAttachment(step.attachment);
   text.setSize(step.width, step.height);
   text.setTextHeight(step.text_height, true);

@@ -16,6 +16,9 @@ constexpr double kUsualHeight = 2.5;
 /// The gutter of a text without columns, in widths.
 constexpr double kGutterFactor = 0.2;
 
+/// What a text is drawn with that has no style.
+constexpr const char16_t* kLastFont = u"txt.shx";
+
 /// True for a height that is none; a number that is not finite counts as a height.
 bool is_zero(double height) { return std::abs(height) <= kNoHeight; }
 
@@ -126,6 +129,11 @@ format::string default_mtext_format(OdSmartPtr<OdDbMText> entity) {
   // A fixed height of the style has deliberately no effect on a multi-line text.
   result.height = entity->textHeight();
   return result;
+}
+
+format::string drawn_mtext_format(OdSmartPtr<OdDbMText> entity) {
+  if (entity->textStyle()) return default_mtext_format(entity);
+  return {.height = entity->textHeight(), .height_kind = 0, .font = kLastFont, .is_shx = true};
 }
 
 convert_info mtext_convert_info(OdSmartPtr<OdDbMText> entity) {

@@ -13,6 +13,9 @@ namespace mtext {
 /// when its style is none.
 format::string default_mtext_format(OdSmartPtr<OdDbMText> entity);
 
+/// The same, and a plain shape font in a drawing that has no style for the entity.
+format::string drawn_mtext_format(OdSmartPtr<OdDbMText> entity);
+
 /// Font, width factor and slant of a text style, with the height that the style asks for, or else the
 /// drawing. Throws `OdError_NotThatKindOfClass` when `style` is none.
 format::string style_format(OdDbObjectId style, const OdDbDatabase* database);

@@ -22,7 +22,7 @@ geom_multitext laid_out(const OdDbMText& text) {
   const auto entity = pointer_to(text);
   const auto contents = contents_of(entity);
   const mtext_size_finder finder{OdDbDatabasePtr(text.database())};
-  return decode(contents.text.str(), default_mtext_format(entity), drawn_convert_info(entity), finder,
+  return decode(contents.text.str(), drawn_mtext_format(entity), drawn_convert_info(entity), finder,
                 contents.fields);
 }
 
@@ -39,8 +39,6 @@ double right_end(const geom_multitext& text, const geom_line& line) {
   return is_terminator(last) ? last.x : last.x + last.size.advance;
 }
 
-bool can_be_laid_out(const OdDbMText& text) { return text.database() && text.textStyle(); }
-
 }  // namespace
 
 OdGeVector2d attachment_box(const geom_multitext& text) {
@@ -52,7 +50,7 @@ OdGeVector2d attachment_box(const geom_multitext& text) {
 }
 
 OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
-  if (!can_be_laid_out(text)) return {};
+  if (!text.database()) return {};
   const geom_multitext laid = laid_out(text);
   if (laid.lines.empty()) return {};
   const geom_line& first = laid.lines.front();
@@ -66,7 +64,7 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
 }
 
 void mtext_layout::draw(const OdDbMText& text, OdGiWorldDraw& draw) {
-  if (!can_be_laid_out(text)) return;
+  if (!text.database()) return;
   const geom_multitext laid = laid_out(text);
   const OdGeVector2d offset = origin_offset(laid);
   OdGiGeometry& geometry = draw.geometry();

@@ -168,6 +168,20 @@ TEST(Session, a_single_line_text_is_selected_whole_and_written_as_plain_text) {
   EXPECT_EQ(line->visibility(), OdDb::kVisible);
 }
 
+TEST(Session, undo_keeps_the_width_factor_of_a_single_line_text) {
+  edited_drawing drawing;
+  auto line = odNew<OdDbText>();
+  line->setDatabaseDefaults(drawing.database.get());
+  line->setTextString(u"Room");
+  line->setHeight(3);
+  line->setWidthFactor(0.5);
+  smart_edit session(drawing.application.document());
+  session.beginTextEdit(line);
+  drawing.type(u"x");
+  session.undoStep();
+  EXPECT_DOUBLE_EQ(session.editable().defaultFormat().width_factor, 0.5);
+}
+
 TEST(Session, the_baseline_of_a_single_line_text_stands_on_its_position) {
   edited_drawing drawing;
   auto line = odNew<OdDbText>();

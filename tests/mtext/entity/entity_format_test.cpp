@@ -132,6 +132,15 @@ TEST_F(EntityFormat, codes_that_are_not_read_are_drawn_as_they_stand) {
   EXPECT_EQ(mtext::decode(text).parts.size(), 3U);
 }
 
+TEST_F(EntityFormat, a_text_in_a_drawing_without_its_style_is_drawn_all_the_same) {
+  text->setContents(u"H");
+  style()->erase();
+  EXPECT_EQ(mtext::drawn_mtext_format(text).font, u"txt.shx");
+  EXPECT_EQ(mtext::drawn_mtext_format(text).height, 2.5);
+  drawn();
+  EXPECT_FALSE(recorder.primitives().empty());
+}
+
 TEST_F(EntityFormat, the_attachment_point_is_the_location) {
   text->setContents(u"Hall");
   text->setAttachment(OdDb::kMiddleCenter);
