@@ -87,3 +87,28 @@ TEST(ForeignDrawings, every_text_stands_in_its_session_where_its_entity_draws_it
     EXPECT_NEAR(drawn.maxPoint().y, wanted.maxPoint().y, tolerance);
   });
 }
+
+TEST(ForeignDrawings, a_text_with_fields_shows_their_values_and_is_written_with_them) {
+  int count = 0;
+  for (const auto& file : drawings()) {
+    const auto database = OdDbDatabase::readFile(file);
+    WindowlessApplication application(database);
+    for (const OdDbObjectId& id : multi_line_texts(*database)) {
+      const auto text = odCast<OdDbMText>(id.openObject(OdDb::kForWrite));
+      if (!text->getField(u"TEXT")) continue;
+      SCOPED_TRACE(file.filename().string() + " " + id.handle().ascii().toUtf8());
+      smart_edit session(application.document());
+      session.beginMTextEdit(text);
+      EXPECT_TRUE(session.editable().hasFields());
+      const std::u16string before = session.editable().evaluatedContentsText().str();
+      application.document().messages().offer({.number = WM_CHAR, .code = u'x'});
+      session.finishEdit(/*accept=*/true, /*force=*/false);
+      EXPECT_EQ(text->contents().str().find(u"%<"), std::u16string::npos);
+      EXPECT_EQ(text->contents(), session.editable().evaluatedContentsText());
+      EXPECT_EQ(text->contents().str().size(), before.size() + 1);
+      EXPECT_FALSE(text->getField(u"TEXT"));
+      ++count;
+    }
+  }
+  if (count == 0) std::cout << "No drawing here has a text with fields.\n";
+}
