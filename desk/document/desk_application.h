@@ -18,7 +18,8 @@ struct DeskServices {
   IKeyState& key_state;
   HostTickSource& ticks;
   HostWindow& window;
-  /// Paints what is invalid before it returns.
+  /// Has what is invalid painted when the prompt waits again: a session asks for it in the midst of an edit,
+  /// when its text is not laid out yet.
   std::function<void()> update_now;
 };
 

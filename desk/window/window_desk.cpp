@@ -33,7 +33,7 @@ WindowDesk::WindowDesk(IProfile& profile)
                      .key_state = m_keys,
                      .ticks = m_ticks,
                      .window = m_host_window,
-                     .update_now = [this] { m_window.view().repaint(); }}),
+                     .update_now = [this] { m_window.view().update(); }}),
       m_router(m_window, {.has_session = [this] { return document().hasSession(); },
                           .inputs_wait = [this] { return m_source.hasInputs(); },
                           .to_session = [this](const QKeyEvent& event) { sendKeys(keyMessages(event)); }}) {
@@ -110,8 +110,16 @@ void WindowDesk::beIdle() {
     view.setCursor(Qt::CrossCursor);
   }
   view.paintIfStale();
+  if (view.underMouse()) showCoordinates();
   for (const OdString& sentence : view.painter().takeDiagnostics()) m_line.write(sentence.str());
   m_window.showTitle(toQt(textOf(file().filename())), document().database().isModified());
+}
+
+/// The camera may have moved under a cursor that stands still.
+void WindowDesk::showCoordinates() {
+  HostWindowMessage cursor;
+  m_window.view().locate(cursor);
+  m_window.showCoordinates(cursor.point.x, cursor.point.y);
 }
 
 std::optional<std::filesystem::path> WindowDesk::askFileToOpen() {

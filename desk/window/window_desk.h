@@ -46,6 +46,7 @@ class WindowDesk : public Desk {
   void type(const QStringList& lines);
   void setBackground(bool dark);
   void beIdle();
+  void showCoordinates();
 
   IProfile& m_profile;
   MainWindow m_window;

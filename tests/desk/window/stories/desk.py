@@ -13,14 +13,15 @@ class Desk:
     """Starts `scribe FILE` on a display of its own and sends keys and mouse events to it."""
 
     def __init__(self, program, drawing, folder):
-        self.display = Display()
+        self.process = None
         self.folder = folder
+        self.log = open(folder / "scribe.log", "wb")
+        self.display = Display()
         self.environment = dict(os.environ, DISPLAY=self.display.name, QT_QPA_PLATFORM="xcb",
                                 XDG_CONFIG_HOME=str(folder / "config"), QT_SCALE_FACTOR="1", LC_ALL="C.UTF-8")
-        self.log = open(folder / "scribe.log", "wb")
-        self.process = subprocess.Popen([str(program), str(drawing)], env=self.environment, cwd=folder,
-                                        stdout=self.log, stderr=self.log)
         try:
+            self.process = subprocess.Popen([str(program), str(drawing)], env=self.environment, cwd=folder,
+                                            stdout=self.log, stderr=self.log)
             self.open_window()
         except BaseException:
             self.end()
@@ -108,19 +109,20 @@ class Desk:
             time.sleep(0.1)
         sys.exit("nothing was saved")
 
-    def quit(self, answer=None):
-        """Ends the program with the command Quit and gives its exit code; `answer` is the key for its question."""
+    def quit(self, answer=None, patience=20):
+        """Types Quit, gives `answer`, a key, to its question, and gives the exit code; None if it goes on."""
         self.line("Quit")
         if answer:
+            time.sleep(1)
             self.key(answer)
         try:
-            return self.process.wait(timeout=20)
+            return self.process.wait(timeout=patience)
         except subprocess.TimeoutExpired:
             return None
 
     def end(self):
         """Ends what is left of the program and its display."""
-        if self.process.poll() is None:
+        if self.process and self.process.poll() is None:
             self.process.kill()
             self.process.wait()
         self.log.close()

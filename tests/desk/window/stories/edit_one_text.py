@@ -6,7 +6,7 @@ import story
 from desk import Desk
 
 options = story.arguments()
-place = story.choose(options.source, ("135,245", "210,297"), ("14500,12000", "20800,14200"))
+place = story.choose(options, ("137,258", "207,296"), ("11500,10500", "21500,15500"))
 drawing = story.prepared(options.folder, place)
 
 with Desk(options.program, drawing, options.folder) as desk:
@@ -31,8 +31,13 @@ with Desk(options.program, drawing, options.folder) as desk:
     assert any(blinks), "no caret blinks"
     assert max(blinks) < 2000, f"{max(blinks)} pixels are more than a caret"
 
-    desk.type("Typed here ")
+    desk.type("Typed here")
     time.sleep(1)
+    typed = desk.picture()
+    desk.key("space")
+    time.sleep(1)
+    moved = typed.differences(desk.picture(), desk.view_box())
+    assert moved > 1000, f"{moved} pixels changed: the last character that was typed is not painted"
     story.keep_picture(desk, options, "edit-one-text.png")
     assert opened.differences(desk.picture(), desk.view_box()) > 100, "typing changed nothing in the view"
     desk.key("ctrl+Return")

@@ -6,7 +6,7 @@ import story
 from desk import Desk
 
 options = story.arguments()
-place = story.choose(options.source, ("670,290", "737,324"), ("16300,3600", "18900,5400"))
+place = story.choose(options, ("670,290", "737,324"), ("16300,3600", "18900,5400"))
 drawing = story.prepared(options.folder, place)
 
 with Desk(options.program, drawing, options.folder) as desk:

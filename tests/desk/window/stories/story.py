@@ -20,20 +20,23 @@ class Place:
 
 def arguments():
     parser = argparse.ArgumentParser()
-    parser.add_argument("program", type=pathlib.Path)
-    parser.add_argument("source", type=pathlib.Path, help="the folder of the project")
-    parser.add_argument("folder", type=pathlib.Path, help="where the story works and leaves its pictures")
-    parser.add_argument("--picture", type=pathlib.Path, help="copies the picture of the open text there")
+    path = lambda text: pathlib.Path(text).resolve()
+    parser.add_argument("program", type=path)
+    parser.add_argument("source", type=path, help="the folder of the project")
+    parser.add_argument("folder", type=path, help="where the story works and leaves its pictures")
+    parser.add_argument("--picture", type=path, help="copies the picture of the open text there")
+    parser.add_argument("--sample", action="store_true", help="takes the sample drawing in any case")
     return parser.parse_args()
 
 
-def choose(source, shared_window, sample_window):
+def choose(options, shared_window, sample_window):
     """The shared drawing with its window if it is there, else the sample with its own."""
-    shared = source.parent / "shared" / "data" / SHARED
-    if shared.exists():
+    shared = options.source.parent / "shared" / "data" / SHARED
+    if shared.exists() and not options.sample:
         return Place(shared, shared_window)
-    print(f"{shared} is absent, the story goes on with samples/first-floor.dxf")
-    return Place(source / "samples" / "first-floor.dxf", sample_window)
+    if not options.sample:
+        print(f"{shared} is absent, the story goes on with samples/first-floor.dxf")
+    return Place(options.source / "samples" / "first-floor.dxf", sample_window)
 
 
 def prepared(folder, place):
