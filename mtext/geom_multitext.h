@@ -21,13 +21,6 @@ struct text_hit {
   bool outside = true;     ///< the point lies outside the box of the line and its column
 };
 
-/// A range of parts, and the parts that take its place.
-struct part_replacement {
-  std::size_t first;
-  std::size_t count;
-  geom_parts parts;
-};
-
 /// A laid-out text: one element per character, the lines and columns that `dispose` made of them, and the
 /// marks that stay on the text while it changes.
 ///
@@ -61,11 +54,12 @@ class geom_multitext {
   void erase(std::size_t first, std::size_t count, bool drop_empty);
   void erase(const mtext::marks::mark& range, bool drop_empty);
 
-  /// Replaces several ranges in one go. Parts and marks end as if each range were erased, without dropping
-  /// empty marks, and its new parts inserted, from the first to the last; positions are those before. Costs
-  /// as much as reading the text once. Throws "geom_multitext::replace: invalid positions" unless the ranges
-  /// ascend, do not overlap and lie in the text.
-  void replace(std::vector<part_replacement> replacements);
+  /// Replaces several ranges in one go; `new_parts` holds what takes their places, one after the other, and
+  /// is left empty. Parts and marks end as if each range were erased, without dropping empty marks, and its
+  /// new parts inserted, from the first to the last; positions are those before. Costs as much as reading the
+  /// text once. Throws "geom_multitext::replace: invalid positions" unless the ranges ascend, do not overlap,
+  /// lie in the text and have as many new parts as there are.
+  void replace(const std::vector<mtext::marks::replaced_range>& ranges, geom_parts& new_parts);
 
   /// Cuts the text down to `count` parts from `first` on, and removes every solid that covers nothing. Throws
   /// as `erase` does.

@@ -25,7 +25,7 @@ struct letters_dictionary : std::vector<alphabet> {
   /// Reads an object of objects in UTF-8, one for each alphabet in the order of the document:
   /// `{ "eng": { "name": "English", "lower": "abc", "upper": "ABC" } }`.
   /// Throws `boost::property_tree::ptree_bad_path` when a member is missing, and
-  /// `boost::property_tree::json_parser_error` when it is no JSON or nests deeper than 100.
+  /// `boost::property_tree::json_parser::json_parser_error` when it is no JSON or nests deeper than 100.
   static letters_dictionary from_json(std::string_view text);
 };
 

@@ -12,6 +12,13 @@
 /// stands before part p, and the number of parts is the end of the text.
 namespace mtext::marks {
 
+/// A range of parts that others take the place of.
+struct replaced_range {
+  std::size_t first;
+  std::size_t count;      ///< parts before
+  std::size_t new_count;  ///< parts afterwards
+};
+
 /// A plain range. The base of all marks, and of use by itself.
 class mark {
  public:

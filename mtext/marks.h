@@ -15,13 +15,6 @@ void adjust_inserted(mark_list& marks, std::size_t at, std::size_t count);
 /// Tells `marks` that `count` parts were erased from `first` on: what lay inside collapses onto `first`.
 void adjust_erased(mark_list& marks, std::size_t first, std::size_t count);
 
-/// A range of parts that others take the place of.
-struct replaced_range {
-  std::size_t first;
-  std::size_t count;      ///< parts before
-  std::size_t new_count;  ///< parts afterwards
-};
-
 /// Tells `marks` that `ranges`, which ascend and do not overlap, were replaced: as if each were erased and
 /// its new parts inserted in its place, from the first to the last. Costs log n for each mark.
 void adjust_replaced(mark_list& marks, const std::vector<replaced_range>& ranges);

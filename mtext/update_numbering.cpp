@@ -45,20 +45,19 @@ bool in_text_order(const labels& all, std::size_t size) {
 /// Writes labels that stand in the order of the text, all in one go.
 void update_in_text_order(geom_multitext& text, const labels& all, const string_size_finder& finder,
                           const marks::letters_dictionary& dictionary) {
-  std::vector<part_replacement> replacements;
-  std::vector<marks::mark> places;
-  std::size_t moved = 0;  // wraps around where the text became shorter, and back
+  std::vector<marks::replaced_range> ranges;
+  geom_parts written;
   for (const marks::numbering* each : all) {
     geom_multitext label = measured_label(text, *each, finder, dictionary);
-    const std::size_t begin = each->begin + moved;
-    places.push_back({begin, begin + label.parts.size()});
-    moved += label.parts.size() - (each->end - each->begin);
-    replacements.push_back({each->begin, each->end - each->begin, std::move(label.parts)});
+    ranges.push_back({each->begin, each->end - each->begin, label.parts.size()});
+    written.transfer(written.end(), label.parts);
   }
-  text.replace(std::move(replacements));
+  text.replace(ranges, written);
+  std::size_t moved = 0;  // wraps around where the text became shorter, and back
   for (std::size_t i = 0; i < all.size(); ++i) {
-    all[i]->begin = places[i].begin;
-    all[i]->end = places[i].end;
+    all[i]->begin = ranges[i].first + moved;
+    all[i]->end = all[i]->begin + ranges[i].new_count;
+    moved += ranges[i].new_count - ranges[i].count;
   }
 }
 
