@@ -13,9 +13,22 @@ namespace {
 
 using namespace mtext;
 
+/// The alphabets of a request; the built-in one where it names none.
+marks::letters_dictionary read_dictionary(const json& in) {
+  const auto found = in.find("dictionary");
+  if (found == in.end()) return marks::default_letters();
+  marks::letters_dictionary dictionary;
+  for (const json& each : *found) {
+    dictionary.push_back({text_member(each, "key"), text_member(each, "name"), text_member(each, "lower"),
+                          text_member(each, "upper")});
+  }
+  return dictionary;
+}
+
 geom_subject read_subject(const json& in) {
   geom_subject subject;
   subject.base = read_format(object_member(in, "base"));
+  subject.dictionary = read_dictionary(in);
   subject.text = decode(text_member(in, "text"), subject.base, read_info(object_member(in, "info")),
                         subject.finder, read_fields(object_member(in, "fields")));
   return subject;
@@ -25,6 +38,7 @@ geom_step find_step(const std::string& name) {
   if (geom_step step = find_edit_step(name)) return step;
   if (geom_step step = find_mark_step(name)) return step;
   if (geom_step step = find_format_step(name)) return step;
+  if (geom_step step = find_numbering_step(name)) return step;
   throw std::logic_error("step not available: " + name);
 }
 

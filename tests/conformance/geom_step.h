@@ -3,6 +3,7 @@
 #include <string>
 
 #include "mtext/geom_multitext.h"
+#include "mtext/letters_dictionary.h"
 #include "tests/conformance/text_json.h"
 #include "tests/mtext/stub_finder.h"
 
@@ -12,6 +13,7 @@ namespace conformance {
 struct geom_subject {
   mtext::geom_multitext text;
   mtext::format::string base;
+  mtext::marks::letters_dictionary dictionary;
   mtext::stub_finder finder;
 };
 
@@ -22,5 +24,6 @@ using geom_step = json (*)(geom_subject& subject, const json& in);
 geom_step find_edit_step(const std::string& name);
 geom_step find_mark_step(const std::string& name);
 geom_step find_format_step(const std::string& name);
+geom_step find_numbering_step(const std::string& name);
 
 }  // namespace conformance
