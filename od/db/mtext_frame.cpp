@@ -15,6 +15,13 @@ bool isSamePlace(const OdGePoint3d& a, const OdGePoint3d& b) {
   return a.distanceTo(b) <= 1e-10 + 1e-14 * size;
 }
 
+/// The direction that a file leaves out: the world's x axis as it lies in the text's plane. It is not the x
+/// axis that the normal gives; the two differ for a text that is seen from behind.
+OdGeVector3d unwrittenDirection(const OdGeVector3d& normal) {
+  const OdGeVector3d inPlane = OdGeVector3d::kXAxis - normal * OdGeVector3d::kXAxis.dotProduct(normal);
+  return inPlane.isZeroLength() ? normal.perpVector() : inPlane.normal();
+}
+
 }  // namespace
 
 OdGePoint3d OdDbMText::location() const { return groups(kMText).point(10); }
@@ -39,10 +46,10 @@ OdGeVector3d OdDbMText::direction() const {
   const dxf::Range range = groups(kMText).range();
   const auto vector = record().find(11, range);
   const auto angle = record().find(50, range);
-  const OdGeVector3d xAxis = normal().perpVector();
-  if (angle && (!vector || *angle > *vector)) return xAxis.rotatedBy(groups(kMText).angle(50), normal());
-  const OdGeVector3d given = vector ? groups(kMText).point(11).asVector() : xAxis;
-  return given.isZeroLength() ? xAxis : given.normal();
+  if (angle && (!vector || *angle > *vector))
+    return normal().perpVector().rotatedBy(groups(kMText).angle(50), normal());
+  const OdGeVector3d given = vector ? groups(kMText).point(11).asVector() : OdGeVector3d();
+  return given.isZeroLength() ? unwrittenDirection(normal()) : given.normal();
 }
 
 void OdDbMText::setDirection(const OdGeVector3d& direction) {

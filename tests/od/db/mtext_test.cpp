@@ -74,6 +74,11 @@ TEST(MText, of_direction_and_rotation_the_last_one_counts) {
               std::numbers::pi / 2, 1e-12);
 }
 
+TEST(MText, without_direction_and_rotation_it_runs_along_the_worlds_x_axis_from_behind_too) {
+  EXPECT_TRUE(Sample(file("AC1015", "1 t 210 0.0 220 0.0 230 -1.0")).text->direction().isEqualTo({1, 0, 0}));
+  EXPECT_TRUE(Sample(file("AC1015", "1 t 210 1.0 220 0.0 230 0.0")).text->direction().isEqualTo({0, 1, 0}));
+}
+
 TEST(MText, turning_writes_a_direction_and_no_angle) {
   const Sample sample(file("AC1015", "1 t 50 30.0"));
   sample.text->setRotation(std::numbers::pi / 2);
