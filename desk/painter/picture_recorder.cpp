@@ -7,6 +7,18 @@
 #include "od/gi/OdGiDrawable.h"
 #include "od/gi/OdGiWorldDraw.h"
 
+namespace {
+
+/// The colour that is shown. Some programs write a layer's index 7 as true white, too: it means the
+/// foreground still, or the layer would vanish on a white ground.
+OdCmEntityColor colorOf(const OdGiSubEntityTraits& traits, const OdGiContext& context) {
+  const OdCmEntityColor shown = context.shownColor(traits.trueColor(), traits.layer());
+  const bool whiteLayer = traits.trueColor().isByLayer() && shown == OdCmEntityColor(255, 255, 255);
+  return whiteLayer ? OdCmEntityColor::fromIndex(OdCmEntityColor::kACIForeground) : shown;
+}
+
+}  // namespace
+
 Picture PictureRecorder::record(OdGiDrawable& drawable, const OdGiViewport& view) {
   m_picture = {};
   OdGiWorldDraw draw(*this, m_context, &view);
@@ -17,8 +29,7 @@ Picture PictureRecorder::record(OdGiDrawable& drawable, const OdGiViewport& view
 
 QPainterPath& PictureRecorder::pathFor(bool filled) {
   const OdGiSubEntityTraits& now = traits();
-  const PaintStyle style{m_context.shownColor(now.trueColor(), now.layer()), now.transparency().alpha(),
-                         filled};
+  const PaintStyle style{colorOf(now, m_context), now.transparency().alpha(), filled};
   if (m_picture.batches.empty() || m_picture.batches.back().style != style) {
     m_picture.batches.push_back({style, {}});
     m_picture.batches.back().path.setFillRule(Qt::WindingFill);

@@ -98,6 +98,25 @@ TEST(Picture, index_7_is_white_on_the_dark_ground_and_black_on_the_light_one) {
   EXPECT_EQ(PaintColors(Background::light).shown({255, 255, 255}, 255), QColor(Qt::white));
 }
 
+TEST(Picture, a_white_layer_is_drawn_in_the_foreground_and_a_white_entity_stays_white) {
+  class WhiteLayers : public OdGiDefaultContext {
+    OdCmEntityColor layerColor(const OdString&) const override { return {255, 255, 255}; }
+  };
+  const OdGsView view = squareView();
+  const PictureFrame frame(view);
+  const WhiteLayers context;
+  PictureRecorder recorder(frame, context);
+  Drawn drawable([](OdGiGeometry& pen) {
+    pen.polyline({{0, 0, 0}, {1, 1, 0}});
+    pen.traits().setTrueColor({255, 255, 255});
+    pen.polyline({{2, 0, 0}, {3, 1, 0}});
+  });
+  const Picture picture = recorder.record(drawable, view);
+  ASSERT_EQ(picture.batches.size(), 2u);
+  EXPECT_EQ(picture.batches[0].style.color, OdCmEntityColor::fromIndex(7));
+  EXPECT_EQ(picture.batches[1].style.color, OdCmEntityColor(255, 255, 255));
+}
+
 TEST(Picture, neighbours_of_one_style_share_a_path) {
   const OdGsView view = squareView();
   const PictureFrame frame(view);
