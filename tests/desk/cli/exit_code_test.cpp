@@ -70,3 +70,15 @@ TEST(Program, names_file_and_line_of_a_bad_script_and_runs_none_of_it) {
   EXPECT_THAT(run.err, HasSubstr("bad.scr, line 3:"));
   EXPECT_FALSE(std::filesystem::exists(scratch("other.dxf")));
 }
+
+TEST(Program, draws_a_drawing_whose_blocks_refer_to_each_other_and_tells_it_in_one_sentence) {
+  const std::string insert = "0\nINSERT\n8\n0\n2\n";
+  writeFile(scratch("cycle.dxf"), "0\nSECTION\n2\nBLOCKS\n0\nBLOCK\n8\n0\n2\nA\n70\n0\n" + insert +
+                                      "B\n0\nENDBLK\n8\n0\n0\nBLOCK\n8\n0\n2\nB\n70\n0\n" + insert +
+                                      "A\n0\nENDBLK\n8\n0\n0\nENDSEC\n0\nSECTION\n2\nENTITIES\n" + insert +
+                                      "A\n0\nENDSEC\n0\nEOF\n");
+  const ProgramRun run = runProgram("render cycle.dxf -o cycle.png");
+  EXPECT_EQ(run.exit_code, 0);
+  EXPECT_EQ(sentences(run.err), 1) << run.err;
+  EXPECT_THAT(run.err, HasSubstr("refers to itself"));
+}
