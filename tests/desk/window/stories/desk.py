@@ -62,12 +62,40 @@ class Desk:
         """Waits until the display stands still, and gives its picture; a caret that blinks ends the patience."""
         before = self.picture()
         for _ in range(patience):
-            time.sleep(0.05)
+            time.sleep(0.1)
             now = self.picture()
             if before.pixels == now.pixels:
                 return now
             before = now
         return before
+
+    def until(self, holds, sentence, patience=60):
+        """Waits until `holds()` is true, and gives what it gave; a slow machine takes longer, never too long."""
+        end = time.monotonic() + patience
+        while time.monotonic() < end:
+            found = holds()
+            if found:
+                return found
+            time.sleep(0.1)
+        raise AssertionError(sentence)
+
+    def until_changed(self, before, sentence, least=1):
+        """Waits until at least `least` pixels of the view differ from the picture `before`; gives the new picture."""
+        def changed():
+            now = self.picture()
+            return now if before.differences(now, self.view_box()) >= least else None
+        return self.until(changed, sentence)
+
+    def windows(self):
+        """How many windows the program shows."""
+        return len(self.tool("search", "--onlyvisible", "--class", "scribe").split())
+
+    def answer(self, key, windows_before):
+        """Waits for a question's box, answers it by a key, and waits until the box is gone."""
+        self.until(lambda: self.windows() > windows_before, "no question is asked")
+        self.settle()
+        self.key(key)
+        self.until(lambda: self.windows() <= windows_before, "the question does not go away")
 
     def rest(self):
         """Gives the program the time that a person needs to lift the hand."""
@@ -103,18 +131,14 @@ class Desk:
     def wait_until_saved(self, drawing):
         """Waits for the backup that every save leaves."""
         backup = drawing.with_name(drawing.name + ".bak")
-        for _ in range(100):
-            if backup.exists():
-                return
-            time.sleep(0.1)
-        sys.exit("nothing was saved")
+        self.until(backup.exists, "nothing was saved")
 
-    def quit(self, answer=None, patience=20):
+    def quit(self, answer=None, patience=60):
         """Types Quit, gives `answer`, a key, to its question, and gives the exit code; None if it goes on."""
+        windows = self.windows()
         self.line("Quit")
         if answer:
-            time.sleep(1)
-            self.key(answer)
+            self.answer(answer, windows)
         try:
             return self.process.wait(timeout=patience)
         except subprocess.TimeoutExpired:

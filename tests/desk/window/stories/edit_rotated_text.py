@@ -1,7 +1,5 @@
 """A person double-clicks a rotated text and types into it."""
 
-import time
-
 import story
 from desk import Desk
 
@@ -14,10 +12,11 @@ with Desk(options.program, drawing, options.folder) as desk:
     shown = desk.settle()
     x, y = desk.view_middle()
     desk.click(x, y, repeat=2)
-    time.sleep(story.CARET_BLINK)
-    assert shown.differences(desk.picture(), desk.view_box()) > 0, "no session is to be seen"
+    desk.until_changed(shown, "no session is to be seen", least=2000)
+    opened = desk.settle()
     desk.type("turned ")
-    time.sleep(1)
+    desk.until_changed(opened, "typing changed nothing in the view", least=1000)
+    desk.settle()
     story.keep_picture(desk, options, "edit-rotated-text.png")
     desk.key("ctrl+Return")
     desk.line("Save")

@@ -7,7 +7,6 @@ import shutil
 import drawing_records
 import picture
 
-CARET_BLINK = 0.4
 SHARED = "r2013_mtext_paragraphs_stacks_fields.dxf"
 
 
