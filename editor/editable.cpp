@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-ExMTextEditable::ExMTextEditable() = default;
+#include "editor/letters_settings.h"
+
+ExMTextEditable::ExMTextEditable() : m_letters(editing::session_letters()) {}
 ExMTextEditable::~ExMTextEditable() = default;
 
 OdRxClass* ExMTextEditable::desc() {

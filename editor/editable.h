@@ -8,6 +8,7 @@
 #include "editor/mtext_editor.h"
 #include "editor/text_frame.h"
 #include "mtext/geom_multitext.h"
+#include "mtext/letters_dictionary.h"
 #include "mtext/parse.h"
 #include "mtext/string_size_finder.h"
 #include "od/db/OdDbEntity.h"
@@ -42,11 +43,16 @@ class ExMTextEditable : public OdDbEntity {
   /// The codes to read with `load`, and the field objects for their markers.
   void setContents(OdString contents, mtext::fields_map fields = {});
   const OdString& contents() const { return m_contents; }
-  /// Reads the contents into the text and lays it out. The caret stands at 0.
+  /// Reads the contents into the text, marks its lists and lays it out. The caret stands at 0, behind a label
+  /// that stands there. The lists are counted by the first `endOfEdit`.
   void load();
   /// What measures; kept for the session. Without one `load` measures with the fonts of the database.
   void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
   const mtext::string_size_finder& finder() const { return *m_finder; }
+  /// The alphabets of lettered lists, for the next `load`. A new text has those of the application's
+  /// settings.
+  void setLetters(mtext::marks::letters_dictionary letters) { m_letters = std::move(letters); }
+  const mtext::marks::letters_dictionary& letters() const { return m_letters; }
   /// Columns, spacing and the mode of extents. Height, alignment and vertical place follow `setTextHeight`
   /// and `setAttachment`.
   void setLayoutInfo(const mtext::convert_info& info);
@@ -140,13 +146,19 @@ class ExMTextEditable : public OdDbEntity {
   void insertLineBreak();
   /// A space at which no line breaks.
   void insertNonBreakingSpace();
-  void insertParagraph(bool column_break);
-  /// Ctrl+T: a paragraph that opens a column, unless the text has 100 columns.
-  void insertColumnBreak();
 
   // ---- editable_tab.cpp
 
+  /// Tab, or Shift+Tab with `shift`: puts selected paragraphs a step in or out, and the list item whose label
+  /// stands before the caret a level deeper or up. Else a tab is typed, and behind what reads as a label it
+  /// starts a list.
   void insertTab(bool shift);
+
+  // ---- editable_numbering.cpp
+
+  /// Makes list items of the paragraphs that the selections touch, or plain paragraphs with -1. Kinds are
+  /// those of `marks::index`; `alphabet` is a place in `letters()` for the lettered ones.
+  void setNumbering(int kind, std::size_t alphabet = 0);
 
   // ---- editable_delete.cpp
 
@@ -174,6 +186,11 @@ class ExMTextEditable : public OdDbEntity {
 
   // ---- editable_paragraph.cpp
 
+  /// Ends the paragraph. Behind the text of a list item it opens the next item; an item without text it turns
+  /// into a plain paragraph first, which is how a list ends.
+  void insertParagraph(bool column_break);
+  /// Ctrl+T: a paragraph that opens a column, unless the text has 100 columns.
+  void insertColumnBreak();
   void applyParagraph(const mtext::format::paragraph_partial& change);
 
   // ---- editable_stack.cpp
@@ -191,8 +208,8 @@ class ExMTextEditable : public OdDbEntity {
 
   // ---- end_of_edit.cpp
 
-  /// Closes every operation: drops the pending format if the selection moved, lays out if `relayout` and
-  /// something asks for it, and tells the watchers of a moved selection.
+  /// Closes every operation: drops the pending format if the selection moved, counts the lists and lays out
+  /// if `relayout` and something asks for it, and tells the watchers of a moved selection.
   void endOfEdit(bool relayout);
   /// Lays out and recomputes the current formats, whether it is needed or not.
   void layOut();
@@ -218,13 +235,28 @@ class ExMTextEditable : public OdDbEntity {
   /// Erases what a mark covers; the mark collapses to its begin.
   void eraseRange(const mtext::marks::mark& range);
   void recomputeCurrentFormats();
+  /// Marks all lists anew, counts them and writes their labels.
+  void renumber();
+  /// Erases the label of the paragraph that begins at `start`, with its indents and tabs, if there is one.
+  void removeLabel(std::size_t start);
+  /// Gives the paragraph that begins at `start` a label, or its label another innermost level.
+  void setLabel(std::size_t start, const mtext::marks::index& level);
+  /// Ends a paragraph at `at`, as `insertParagraph` does.
+  void startParagraph(std::size_t at, const mtext::format::string& format, bool column_break);
   /// Has the parts from `first` to `last` measure themselves again.
   void remeasure(std::size_t first, std::size_t last);
   void deleteBackAt(const mtext::marks::selection& selection, bool word);
   void pasteCodes(const std::u16string& codes);
   void pastePlain(std::u16string_view text);
-  /// Puts a tab in front of each paragraph of `range`, or takes one away with `back`.
+  /// Whether a caret stands in a paragraph that opens with a label nobody has marked yet.
+  bool caretMeetsNewLabel();
+  /// Puts each paragraph of `range` a step in, or out with `back`: a list item by a level, others by a tab.
   void indentParagraphs(const mtext::marks::mark& range, bool back);
+  /// Puts one item a level deeper, or up with `back`; its label may end up empty.
+  void indentLabel(mtext::marks::numbering& label, bool back);
+  void tabAtCaret(mtext::marks::selection& caret, bool shift);
+  /// Makes an item of the paragraph if the text up to the tab that ends at `behind_tab` reads as a label.
+  void startList(std::size_t behind_tab);
   /// What a selected text becomes, in the format of its begin; nothing: it stays.
   using rebuilding = std::function<std::optional<mtext::geom_multitext>(const mtext::geom_multitext& text,
                                                                         const mtext::format::string& format)>;
@@ -245,6 +277,8 @@ class ExMTextEditable : public OdDbEntity {
   mtext::format::paragraph_partial m_current_paragraph;
   std::vector<mtext::marks::selection> m_selections_before;  ///< as `endOfEdit` saw them last
   std::vector<MTextEditor*> m_watchers;
+  mtext::marks::letters_dictionary m_letters;
+  bool m_numbering_dirty = false;
   bool m_layout_dirty = false;
   bool m_draft = false;
 };

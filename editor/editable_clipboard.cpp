@@ -1,5 +1,9 @@
+#include <algorithm>
+
 #include "editor/editable.h"
+#include "editor/list_labels.h"
 #include "editor/selection_scope.h"
+#include "editor/word_bounds.h"
 #include "host/application.h"
 #include "host/clipboard.h"
 #include "host/exports.h"
@@ -83,11 +87,20 @@ void ExMTextEditable::pasteCodes(const std::u16string& codes) {
   });
 }
 
+bool ExMTextEditable::caretMeetsNewLabel() {
+  const auto carets = selections();
+  return std::any_of(carets.begin(), carets.end(), [this](const auto& caret) {
+    return editing::opens_with_new_label(m_text, editing::paragraph_start(m_text, caret.begin), m_letters);
+  });
+}
+
 /// Characters as they are: codes in plain text are letters.
 void ExMTextEditable::pastePlain(std::u16string_view text) {
   for (std::size_t end; (end = text.find(u'\n')) != std::u16string_view::npos; text.remove_prefix(end + 1)) {
     insertText(text.substr(0, end));
     insertParagraph(/*column_break=*/false);
+    // A label that now stands behind the caret takes the caret behind it. Counting can wait.
+    if (caretMeetsNewLabel()) renumber();
   }
   insertText(text);
 }

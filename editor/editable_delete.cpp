@@ -47,10 +47,12 @@ void ExMTextEditable::deleteBackAt(const selection& range, bool word) {
 void ExMTextEditable::deleteBack(bool word) {
   for (const selection* range : editing::selection_marks(m_text)) {
     deleteBackAt(*range, word);
+    if (!word) continue;
     // The next word starts where the text now is.
-    if (word) layOut();
+    renumber();
+    layOut();
   }
-  m_layout_dirty = true;
+  m_numbering_dirty = m_layout_dirty = true;
 }
 
 void ExMTextEditable::deleteForward() {
@@ -65,10 +67,10 @@ void ExMTextEditable::deleteForward() {
         eraseRange({solid->begin, solid->end});
     }
   }
-  m_layout_dirty = true;
+  m_numbering_dirty = m_layout_dirty = true;
 }
 
 void ExMTextEditable::deleteSelection(bool mark_changed) {
   for (const selection* range : editing::selection_marks(m_text)) eraseRange(*range);
-  if (mark_changed) m_layout_dirty = true;
+  if (mark_changed) m_numbering_dirty = m_layout_dirty = true;
 }

@@ -2,6 +2,8 @@
 #include "mtext/dispose.h"
 #include "mtext/entity/mtext_size_finder.h"
 #include "mtext/flatten.h"
+#include "mtext/marks.h"
+#include "mtext/numbering.h"
 #include "mtext/parse.h"
 #include "mtext/serialize.h"
 #include "mtext/to_geom.h"
@@ -24,8 +26,11 @@ void ExMTextEditable::load() {
   mtext::parse(m_contents.str(), m_default_format, logical, m_fields);
   mtext::geom_multitext text = mtext::to_geom(logical, textHeight(), *m_finder);
   text.info = m_text.info;
+  mtext::mark_numberings(text, m_letters);
   text.marks.push_back(new mtext::marks::selection(0));
+  mtext::marks::slide_selections(text.marks);
   m_text = std::move(text);
+  m_numbering_dirty = true;
   layOut();
   m_selections_before = selections();
 }

@@ -5,13 +5,6 @@
 #include "mtext/format_at.h"
 #include "mtext/to_geom.h"
 
-namespace {
-
-/// More columns than this no text may get by typing.
-constexpr std::size_t kMostColumns = 100;
-
-}  // namespace
-
 mtext::format::string ExMTextEditable::insertionFormat(const mtext::marks::selection& selection) const {
   const auto format = mtext::format::insertion_format(m_text, m_default_format, selection);
   return mtext::format::applied_to(format, m_pending_format);
@@ -28,7 +21,7 @@ void ExMTextEditable::replaceSelections(const insertion& make) {
     m_text.insert(range->begin, make(format, range->begin));
     range->caret_at_begin = range->at_line_end = false;
   }
-  m_layout_dirty = true;
+  m_numbering_dirty = m_layout_dirty = true;
 }
 
 void ExMTextEditable::insertChar(char16_t character) {
@@ -49,17 +42,4 @@ void ExMTextEditable::insertNonBreakingSpace() {
   replaceSelections([&](const mtext::format::string& format, std::size_t) {
     return mtext::to_geom(mtext::string(format, u" "), textHeight(), *m_finder);
   });
-}
-
-void ExMTextEditable::insertParagraph(bool column_break) {
-  replaceSelections([&](const mtext::format::string& format, std::size_t at) {
-    const mtext::new_paragraph end(mtext::paragraph_at(m_text, at), format, column_break);
-    return mtext::to_geom(end, textHeight(), *m_finder);
-  });
-}
-
-void ExMTextEditable::insertColumnBreak() {
-  if (std::max(m_text.columns.size(), m_text.info.columns.heights.size()) >= kMostColumns) return;
-  insertParagraph(/*column_break=*/true);
-  layOut();
 }

@@ -1,4 +1,5 @@
 #include "editor/editable.h"
+#include "editor/list_labels.h"
 #include "mtext/dispose.h"
 #include "mtext/format_at.h"
 
@@ -35,6 +36,10 @@ void ExMTextEditable::endOfEdit(bool relayout) {
   if (moved) m_pending_format = {};
   m_selections_before = std::move(now);
   recomputeCurrentFormats();
-  if (relayout && m_layout_dirty) layOut();
+  if (relayout) {
+    if (m_numbering_dirty) renumber();
+    if (m_finder && editing::clean_labels(m_text, *m_finder)) m_layout_dirty = true;
+    if (m_layout_dirty) layOut();
+  }
   if (moved) notifyWatchers();
 }

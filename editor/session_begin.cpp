@@ -78,11 +78,12 @@ void smart_edit::takeOrigin() {
 void smart_edit::startEditing(const session_start& start) {
   m_is_new = start.is_new;
   m_compact = start.compact;
-  takeOrigin();
   if (m_blink) m_blink->start();
   const auto at = start.caret_at ? textPoint(*start.caret_at) : std::nullopt;
   if (at) m_editable->selectBetween(*at, *at, /*keep=*/false);
   m_editable->endOfEdit(/*relayout=*/true);
+  // Behind the first count of the lists: a text of which nobody changed anything keeps its own numbers.
+  takeOrigin();
   repaint(redraw_request::kGadgets | redraw_request::kText);
 }
 

@@ -27,4 +27,11 @@ std::size_t paragraph_start(const mtext::geom_multitext& text, std::size_t posit
   return position;
 }
 
+std::vector<std::size_t> paragraph_starts(const mtext::geom_multitext& text,
+                                          const mtext::marks::mark& range) {
+  std::vector<std::size_t> starts{paragraph_start(text, range.end)};
+  while (starts.back() > range.begin) starts.push_back(paragraph_start(text, starts.back() - 1));
+  return starts;
+}
+
 }  // namespace editing

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <vector>
 
 #include "mtext/geom_multitext.h"
 
@@ -16,5 +17,9 @@ std::size_t word_end(const mtext::geom_multitext& text, std::size_t position);
 
 /// First position of the paragraph that `position` lies in.
 std::size_t paragraph_start(const mtext::geom_multitext& text, std::size_t position);
+
+/// First positions of the paragraphs that `range` touches, the last paragraph first: an edit at one leaves
+/// those still to come where they are.
+std::vector<std::size_t> paragraph_starts(const mtext::geom_multitext& text, const mtext::marks::mark& range);
 
 }  // namespace editing

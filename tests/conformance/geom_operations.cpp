@@ -2,6 +2,7 @@
 
 #include "mtext/decode.h"
 #include "tests/conformance/answer.h"
+#include "tests/conformance/dictionary_json.h"
 #include "tests/conformance/format_json.h"
 #include "tests/conformance/geom_json.h"
 #include "tests/conformance/geom_step.h"
@@ -12,18 +13,6 @@ namespace conformance {
 namespace {
 
 using namespace mtext;
-
-/// The alphabets of a request; the built-in one where it names none.
-marks::letters_dictionary read_dictionary(const json& in) {
-  const auto found = in.find("dictionary");
-  if (found == in.end()) return marks::default_letters();
-  marks::letters_dictionary dictionary;
-  for (const json& each : *found) {
-    dictionary.push_back({text_member(each, "key"), text_member(each, "name"), text_member(each, "lower"),
-                          text_member(each, "upper")});
-  }
-  return dictionary;
-}
 
 geom_subject read_subject(const json& in) {
   geom_subject subject;

@@ -1,6 +1,7 @@
 #include "tests/conformance/session_subject.h"
 
 #include "od/db/OdDbDatabase.h"
+#include "tests/conformance/dictionary_json.h"
 #include "tests/conformance/format_json.h"
 #include "tests/conformance/geom_json.h"
 #include "tests/conformance/multitext_json.h"
@@ -27,6 +28,7 @@ session_subject::session_subject(const json& in) : m_session(application().docum
   text().setDefaultFormat(read_format(object_member(in, "base")));
   const std::u16string contents = text_member(in, "contents");
   text().setContents(contents, read_fields(object_member(in, "fields")));
+  text().setLetters(read_dictionary(in));
   text().load();
   m_session.beginPlain(member_or(in, "single_line", false), !contents.empty());
 }

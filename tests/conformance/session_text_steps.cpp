@@ -51,6 +51,11 @@ json subscript(session_subject& subject, const json&) {
   return nullptr;
 }
 
+json set_numbering(session_subject& subject, const json& in) {
+  subject.text().setNumbering(in.at("kind"), in.at("start"));
+  return nullptr;
+}
+
 json set_attachment(session_subject& subject, const json& in) {
   subject.text().setAttachment(in.at("attachment"));
   return nullptr;
@@ -112,6 +117,7 @@ session_step find_text_step(const std::string& name) {
                                                          {"stack_selection", stack_selection},
                                                          {"superscript", superscript},
                                                          {"subscript", subscript},
+                                                         {"set_numbering", set_numbering},
                                                          {"set_attachment", set_attachment},
                                                          {"push_undo_step", push_undo_step},
                                                          {"copy", copy},
