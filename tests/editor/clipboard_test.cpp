@@ -39,3 +39,20 @@ TEST(Clipboard, plain_lines_become_blanks_in_an_existing_single_line_text) {
   text.application().clipboard().set(CF_UNICODETEXT, u"a\r\nb");
   EXPECT_EQ(text.keys("Ctrl+v").drawn(), "xa b|");
 }
+
+TEST(Clipboard, plain_lines_become_items_of_the_list_they_are_pasted_into) {
+  edited_text text("1.→a|¶2.→b");
+  text.application().clipboard().set(CF_UNICODETEXT, u"x\ny\nz");
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "1.→ax¶2.→y¶3.→z|¶4.→b");
+}
+
+TEST(Clipboard, a_pasted_break_in_front_of_a_label_takes_the_caret_behind_it) {
+  edited_text text("a|2.→b");
+  text.application().clipboard().set(CF_UNICODETEXT, u"\nx");
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "a¶1.→x|b");
+}
+
+TEST(Clipboard, pasted_items_are_counted) {
+  edited_text text("1.→a¶2.→[b¶3.→c]");
+  EXPECT_EQ(text.keys("Ctrl+c PageDown Enter Backspace Ctrl+v").drawn(), "1.→a¶2.→b¶3.→c¶b¶4.→c|");
+}

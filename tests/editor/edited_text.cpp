@@ -73,6 +73,14 @@ char16_t sign_of(const mtext::geom_part& part) {
   }
 }
 
+/// The number of the key that types a character. Those of signs stand in no table: their own numbers would be
+/// those of other keys.
+unsigned key_of(char16_t character) {
+  if (character >= u'a' && character <= u'z') return character - u'a' + u'A';
+  const bool is_sign = character > u' ' && (character < u'0' || character > u'Z');
+  return is_sign ? 0 : character;
+}
+
 const std::map<std::string, unsigned, std::less<>>& named_keys() {
   static const std::map<std::string, unsigned, std::less<>> keys{
       {"Backspace", VK_BACK}, {"Enter", VK_RETURN}, {"Esc", VK_ESCAPE}, {"PageUp", VK_PRIOR},
@@ -130,8 +138,7 @@ void edited_text::key(std::string_view name) {
   m_application->keyState().hold(held);
   const auto named = named_keys().find(name);
   const char16_t character = name == "Space" ? u' ' : name == "Tab" ? u'\t' : odToUtf16(name)[0];
-  const unsigned upper = character >= u'a' && character <= u'z' ? character - u'a' + u'A' : character;
-  const unsigned code = named == named_keys().end() ? upper : named->second;
+  const unsigned code = named == named_keys().end() ? key_of(character) : named->second;
   send({.number = WM_KEYDOWN, .code = code, .repeat = repeat});
   if (named == named_keys().end()) send({.number = WM_CHAR, .code = character, .repeat = repeat});
   send({.number = WM_KEYUP, .code = code});

@@ -54,6 +54,19 @@ TEST(Session, accepting_an_unchanged_text_leaves_the_drawing_as_it_was_whatever_
   }
 }
 
+TEST(Session, counts_the_lists_of_a_text_when_it_is_opened_and_writes_that_with_the_first_change) {
+  edited_drawing drawing;
+  drawing.text->setContents(u"5.\ta\\P7.\tb");
+  smart_edit& session = drawing.begin();
+  EXPECT_EQ(session.editable().contentsText(), OdString(u"1.\ta\\P2.\tb"));
+  session.finishEdit(/*accept=*/true, /*force=*/false);
+  EXPECT_EQ(drawing.text->contents(), OdString(u"5.\ta\\P7.\tb"));
+  smart_edit& again = drawing.begin();
+  drawing.type(u"x");
+  again.finishEdit(/*accept=*/true, /*force=*/false);
+  EXPECT_EQ(drawing.text->contents(), OdString(u"1.\txa\\P2.\tb"));
+}
+
 TEST(Session, typing_and_taking_it_back_leaves_the_drawing_as_it_was) {
   edited_drawing drawing;
   drawing.text->setContents(u"{\\C1;{a}}b");
