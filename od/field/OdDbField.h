@@ -19,10 +19,13 @@ class OdDbField : public OdRxObject {
   };
 
   OdDbField() = default;
+  ~OdDbField() override;
   /// `evaluator` names the program that evaluates (`_text` for a container), `code` is what it is given.
   OdDbField(OdString evaluator, OdString code) : m_evaluator(std::move(evaluator)), m_code(std::move(code)) {}
 
   const OdString& evaluatorId() const { return m_evaluator; }
+  /// Whether the code is text that names children, not what an evaluator reads.
+  bool isContainer() const { return m_evaluator == OdString(u"_text"); }
   /// Code or evaluated text, by one value of `CodeFlag`.
   virtual OdString getFieldCode(int flags) const;
   void setEvaluatedText(OdString text) { m_evaluated = std::move(text); }
@@ -34,8 +37,6 @@ class OdDbField : public OdRxObject {
   void addChild(OdSmartPtr<OdDbField> child) { m_children.push_back(std::move(child)); }
 
  private:
-  bool isContainer() const { return m_evaluator == OdString(u"_text"); }
-
   OdString m_evaluator;
   OdString m_code;
   OdString m_evaluated;

@@ -36,3 +36,33 @@ TEST(OdDbField, a_child_index_outside_throws) {
   EXPECT_THROW(containerWithDate()->getChild(1), OdError_InvalidIndex);
   EXPECT_THROW(containerWithDate()->getChild(-1), OdError_InvalidIndex);
 }
+
+TEST(OdDbField, a_hundred_thousand_containers_in_each_other_cost_no_stack) {
+  OdDbFieldPtr outer = odNew<OdDbField>(u"AcVar", u"\\AcVar Date");
+  for (int depth = 0; depth < 100'000; ++depth) {
+    OdDbFieldPtr container = odNew<OdDbField>(u"_text", u"%<\\_FldIdx 0>%.");
+    container->addChild(outer);
+    outer = container;
+  }
+
+  const OdString code = outer->getFieldCode(OdDbField::kAddMarkers);
+
+  EXPECT_TRUE(code.str().starts_with(u"%<\\AcVar Date>%."));
+  EXPECT_TRUE(code.str().ends_with(u"..."));
+}
+
+TEST(OdDbField, containers_that_name_their_child_ten_times_each_leave_markers_standing_in_the_end) {
+  OdDbFieldPtr outer = odNew<OdDbField>(u"AcVar", u"\\AcVar Date");
+  for (int depth = 0; depth < 40; ++depth) {
+    std::u16string tenTimes;
+    for (int i = 0; i < 10; ++i) tenTimes += u"%<\\_FldIdx 0>%";
+    OdDbFieldPtr container = odNew<OdDbField>(u"_text", tenTimes);
+    container->addChild(outer);
+    outer = container;
+  }
+
+  const OdString code = outer->getFieldCode(OdDbField::kAddMarkers);
+
+  EXPECT_NE(code.str().find(u"%<\\_FldIdx 0>%"), std::u16string::npos);
+  EXPECT_LT(code.str().size(), 5'000'000u);
+}
