@@ -14,6 +14,11 @@ constexpr double kUsualDeviation = 1e-3;
 
 constexpr int kMaxPieces = 4096;
 
+/// Drawings may hold any number: what lies nowhere cannot be drawn, and would spoil the extents of the rest.
+bool isFinite(const OdGePoint3d& p) { return std::isfinite(p.x) && std::isfinite(p.y) && std::isfinite(p.z); }
+
+bool areFinite(const OdGiContour& points) { return std::all_of(points.begin(), points.end(), isFinite); }
+
 std::span<const OdGePoint3d> withoutRepeatedEnd(std::span<const OdGePoint3d> points) {
   bool repeats = points.size() > 1 && points.front() == points.back();
   return repeats ? points.first(points.size() - 1) : points;
@@ -29,6 +34,10 @@ struct OdGiGeometry::Ellipse {
 
   OdGePoint3d at(double t) const { return center + u * std::cos(t) + v * std::sin(t); }
   double largerRadius() const { return std::max(u.length(), v.length()); }
+  /// Whether the curve has a place and a size: the squares of its radii count, too.
+  bool isDrawable() const {
+    return isFinite(center) && std::isfinite(largerRadius()) && std::isfinite(sweep);
+  }
   bool isRound() const {
     double slack = kRoundness * largerRadius();
     return std::abs(u.length() - v.length()) <= slack && std::abs(u.dotProduct(v)) <= slack * largerRadius();
@@ -53,7 +62,7 @@ void OdGiGeometry::polyline(std::span<const OdGePoint3d> points, const OdGeVecto
   OdGiContour world;
   world.reserve(points.size());
   for (const OdGePoint3d& p : points) world.push_back(getModelToWorldTransform() * p);
-  devicePolyline(world);
+  if (areFinite(world)) devicePolyline(world);
 }
 
 void OdGiGeometry::polygon(std::span<const OdGePoint3d> points) {
@@ -70,7 +79,7 @@ void OdGiGeometry::polyPolygon(std::span<const OdGiContour> contours) {
     placed.reserve(contour.size());
     for (const OdGePoint3d& p : contour) placed.push_back(getModelToWorldTransform() * p);
   }
-  emitClosed(world);
+  if (std::all_of(world.begin(), world.end(), areFinite)) emitClosed(world);
 }
 
 void OdGiGeometry::emitClosed(std::span<const OdGiContour> contours) {
@@ -87,6 +96,7 @@ void OdGiGeometry::circle(const OdGePoint3d& center, double radius, const OdGeVe
   OdGeVector3d x = z.perpVector();
   const OdGeMatrix3d& m = getModelToWorldTransform();
   Ellipse curve{m * center, m * (x * radius), m * (z.crossProduct(x) * radius)};
+  if (!curve.isDrawable()) return;
   if (!curve.isRound()) return ellipticalArc(curve, true);
   deviceCircle(curve.center, curve.u.length(), curve.u.crossProduct(curve.v).normal());
 }
@@ -96,6 +106,7 @@ void OdGiGeometry::circularArc(const OdGePoint3d& center, double radius, const O
   OdGeVector3d start = startVector.normal() * radius;
   const OdGeMatrix3d& m = getModelToWorldTransform();
   Ellipse curve{m * center, m * start, m * normal.normal().crossProduct(start), sweepAngle};
+  if (!curve.isDrawable()) return;
   if (!curve.isRound()) return ellipticalArc(curve, false);
   // A mirror turns the plane's normal along with the arc, so the sweep keeps its sign.
   OdGeVector3d worldNormal = curve.u.crossProduct(curve.v).normal();

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 #include "od/base/OdError.h"
 #include "od/gi/OdGiRecorder.h"
 
@@ -117,4 +119,27 @@ TEST(OdGiGeometry, a_squeezed_arc_becomes_an_open_polyline_with_its_two_ends) {
   const OdGiContour& points = pen.primitives()[0].contours[0];
   EXPECT_TRUE(points.front().isEqualTo({3, 0, 0}));
   EXPECT_TRUE(points.back().isEqualTo({0, 1, 0}));
+}
+
+TEST(OdGiGeometry, what_lies_at_no_finite_place_is_not_drawn) {
+  constexpr double kInfinite = std::numeric_limits<double>::infinity();
+  constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
+  OdGiRecorder pen;
+  pen.polyline({{0, 0, 0}, {kInfinite, 0, 0}});
+  pen.polygon({{0, 0, 0}, {1, 0, 0}, {0, kNone, 0}});
+  pen.circle({0, 0, 0}, 1e308, {0, 0, 1});
+  pen.circle({kNone, 0, 0}, 1, {0, 0, 1});
+  pen.circularArc({0, 0, 0}, 1, {0, 0, 1}, {1, 0, 0}, kInfinite);
+  pen.pushModelTransform(OdGeMatrix3d::scaling(1e300));
+  pen.circle({0, 0, 0}, 1e300, {0, 0, 1});
+  pen.popModelTransform();
+  EXPECT_EQ(pen.describe(), "");
+}
+
+TEST(OdGiGeometry, a_circle_in_a_block_of_no_size_is_drawn_as_a_point_without_harm) {
+  OdGiRecorder pen;
+  pen.pushModelTransform(OdGeMatrix3d::scaling(0));
+  pen.circle({5, 5, 0}, 2, {0, 0, 1});
+  pen.popModelTransform();
+  EXPECT_EQ(pen.primitives().size(), 1u);
 }
