@@ -71,6 +71,7 @@ void File::read_records() {
   prefix_ = all.substr(0, reader->head_size());
   suffix_ = all.substr(reader->position());
   settle_manner(records_, *manner);
+  if (const auto header = section("HEADER")) header_ = header->begin;
   manner_ = manner;
 }
 
@@ -90,6 +91,17 @@ std::unique_ptr<Record> File::make_record(std::string_view type) const {
 
 Record& File::insert_before(Record* place, std::string_view type) {
   return records_.insert_before(place, make_record(type));
+}
+
+Record& File::make_header() {
+  if (header_) return *header_;
+  Record* place = records_.first();
+  // Remarks at the top of the file stay there.
+  if (place && place->type().empty()) place = place->next();
+  header_ = &insert_before(place, "SECTION");
+  header_->insert_string(1, 2, u"HEADER");
+  insert_before(place, "ENDSEC");
+  return *header_;
 }
 
 std::vector<Section> File::sections() const {

@@ -51,6 +51,12 @@ class File {
   /// The first section of that name.
   std::optional<Section> section(std::string_view name) const;
 
+  /// The record SECTION of the header, which holds all variables; null if the drawing has none. Found once:
+  /// variables are asked for with every text.
+  Record* header() const { return header_; }
+  /// The same, made at the top of the file if there is none.
+  Record& make_header();
+
  private:
   File() = default;
   void read_records();
@@ -61,6 +67,7 @@ class File {
   std::string_view suffix_;  ///< what stands behind the last group
   std::shared_ptr<const Manner> manner_;
   RecordList records_;
+  Record* header_ = nullptr;
 };
 
 }  // namespace dxf

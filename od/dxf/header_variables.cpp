@@ -4,10 +4,7 @@
 
 namespace dxf {
 
-Record* HeaderVariables::record() const {
-  const auto section = file_->section("HEADER");
-  return section ? section->begin : nullptr;
-}
+Record* HeaderVariables::record() const { return file_->header(); }
 
 std::vector<std::string> HeaderVariables::names() const {
   std::vector<std::string> found;
@@ -64,20 +61,9 @@ Point HeaderVariables::point_or(std::string_view name, const Point& fallback) co
   return index ? record()->get_point(*index, find(name)->end) : fallback;
 }
 
-Record& HeaderVariables::made_record() {
-  if (Record* const header = record()) return *header;
-  Record* place = file_->records().first();
-  // Remarks at the top of the file stay there.
-  if (place && place->type().empty()) place = place->next();
-  Record& header = file_->insert_before(place, "SECTION");
-  header.insert_string(1, 2, u"HEADER");
-  file_->insert_before(place, "ENDSEC");
-  return header;
-}
-
 // Appends `9:name` unless the variable is there, and gives the place of its first value.
 std::size_t HeaderVariables::add_name(std::string_view name) {
-  Record& header = made_record();
+  Record& header = file_->make_header();
   if (const auto range = find(name)) return range->begin;
   header.insert_string(header.size(), 9, std::u16string(name.begin(), name.end()));
   return header.size();

@@ -38,7 +38,6 @@ class HeaderVariables {
   void set_point(std::string_view name, int code, const Point& value);
 
  private:
-  Record& made_record();
   std::optional<std::size_t> value_index(std::string_view name) const;
   std::size_t add_name(std::string_view name);
 

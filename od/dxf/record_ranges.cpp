@@ -62,7 +62,8 @@ std::optional<Range> Record::xdata(std::u16string_view application) const {
 
 std::optional<Range> Record::application_group(std::string_view name) const {
   const std::string opening = "{" + std::string(name);
-  for (std::size_t index = 0; index < body_end(); ++index) {
+  const std::size_t end = body_end();
+  for (std::size_t index = 0; index < end; ++index) {
     if (groups_[index].code() != 102 || trimmed(index) != opening) continue;
     Range found{index + 1, index + 1};
     while (found.end < size() && groups_[found.end].code() != 102) ++found.end;
