@@ -19,9 +19,9 @@ void OdDbBlockDrawing::drawBlock(OdDbObjectId block) {
   run();
 }
 
-void OdDbBlockDrawing::report(const OdString& block) const {
+void OdDbBlockDrawing::report(const OdString& sentence) const {
   if (const auto* context = dynamic_cast<const OdGiContextForDbDatabase*>(&m_draw.context()))
-    context->report(u"Block " + block + u" refers to itself");
+    context->report(sentence);
 }
 
 /// Begins a pass over a block; the traits in force are those of the reference.
@@ -34,7 +34,7 @@ void OdDbBlockDrawing::enter(OdDbObjectId id, OdSmartPtr<OdDbBlockReference> ref
     return;
   }
   if (m_open.contains(id)) {
-    report(block->getName());
+    report(u"Block " + block->getName() + u" refers to itself");
     m_draw.geometry().traits() = traitsOutside;
     return;
   }
@@ -50,7 +50,10 @@ void OdDbBlockDrawing::enter(OdDbObjectId id, OdSmartPtr<OdDbBlockReference> ref
 }
 
 void OdDbBlockDrawing::run() {
-  while (!m_frames.empty()) step();
+  while (!m_frames.empty() && m_steps++ < kMostSteps) step();
+  if (m_frames.empty()) return;
+  report(u"Block " + m_frames.front().block->getName() + u" holds too much to be drawn whole");
+  abandon();
 }
 
 void OdDbBlockDrawing::step() {
@@ -61,15 +64,24 @@ void OdDbBlockDrawing::step() {
   if (entity) drawEntity(*entity);
 }
 
+/// Leaves all passes at once.
+void OdDbBlockDrawing::abandon() {
+  for (; !m_frames.empty(); m_frames.pop_back()) {
+    m_draw.geometry().popModelTransform();
+    m_draw.geometry().traits() = m_frames.back().traitsOutside;
+  }
+  m_open.clear();
+}
+
 /// Ends a pass: the next cell of an array follows, or what lies around the reference.
 void OdDbBlockDrawing::leave() {
   Frame& frame = m_frames.back();
   m_draw.geometry().popModelTransform();
-  const int columns = frame.reference ? frame.reference->columns() : 1;
-  const int cells = frame.reference ? columns * frame.reference->rows() : 1;
+  const std::int64_t columns = frame.reference ? frame.reference->columns() : 1;
+  const std::int64_t cells = frame.reference ? columns * frame.reference->rows() : 1;
   if (++frame.cell < cells) {
     frame.next = 0;
-    const int column = frame.cell % columns, row = frame.cell / columns;
+    const int column = static_cast<int>(frame.cell % columns), row = static_cast<int>(frame.cell / columns);
     m_draw.geometry().pushModelTransform(frame.reference->blockTransform(column, row));
     return;
   }
@@ -102,6 +114,7 @@ void OdDbBlockDrawing::drawEntity(OdDbEntity& entity) {
 
 void OdDbBlockDrawing::drawAttributes(const OdDbBlockReference& reference) {
   for (const OdDbObjectId& id : reference.attributes()) {
+    ++m_steps;
     const auto attribute = odOpen<OdDbAttribute>(id);
     if (attribute) m_draw.drawInBlock(*attribute);
   }

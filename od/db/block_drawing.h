@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <unordered_set>
 #include <vector>
 
@@ -7,9 +8,13 @@
 #include "od/db/OdDbBlockTableRecord.h"
 
 /// Draws block references with all that is nested in them. Depth costs heap and never stack; a block that
-/// leads to itself is left out and reported once.
+/// leads to itself is left out and reported once, and so is what goes beyond a bound when blocks multiply.
 class OdDbBlockDrawing {
  public:
+  /// Entities and cells of arrays that one drawing of a reference comes to at most: a handful of blocks in
+  /// each other, or one array, can stand for more than any machine can draw.
+  static constexpr std::int64_t kMostSteps = 1'000'000;
+
   explicit OdDbBlockDrawing(OdGiWorldDraw& draw) : m_draw(draw) {}
 
   /// Draws `reference`, whose traits are in force.
@@ -24,7 +29,7 @@ class OdDbBlockDrawing {
     std::vector<OdDbObjectId> entities;
     std::size_t next = 0;
     OdSmartPtr<OdDbBlockReference> reference;  ///< null where the block is drawn as it stands
-    int cell = 0;                              ///< of the reference's array, row by row
+    std::int64_t cell = 0;                     ///< of the reference's array, row by row
     OdGiSubEntityTraits traitsOfReference;
     OdGiSubEntityTraits traitsOutside;
   };
@@ -36,9 +41,11 @@ class OdDbBlockDrawing {
   void drawEntity(OdDbEntity& entity);
   void drawAttributes(const OdDbBlockReference& reference);
   void leave();
-  void report(const OdString& block) const;
+  void abandon();
+  void report(const OdString& sentence) const;
 
   OdGiWorldDraw& m_draw;
   std::vector<Frame> m_frames;
   std::unordered_set<OdDbObjectId> m_open;  ///< the blocks of all frames
+  std::int64_t m_steps = 0;                 ///< entities visited and blocks left
 };

@@ -113,6 +113,37 @@ TEST(DrawingDefects, blocks_nest_twenty_thousand_deep) {
   EXPECT_EQ(recorder.primitives()[0].contours[0][0].x, kDepth);
 }
 
+TEST(DrawingDefects, ten_blocks_of_ten_inserts_each_are_drawn_up_to_a_bound_and_told_of) {
+  std::string blocks = block("B0", kLine);
+  for (int i = 1; i <= 10; ++i) {
+    std::string inserts;
+    for (int k = 0; k < 10; ++k) inserts += insert("B" + std::to_string(i - 1));
+    blocks += block("B" + std::to_string(i), inserts);
+  }
+  const OdDbDatabasePtr database =
+      read("0 SECTION 2 BLOCKS" + blocks + " 0 ENDSEC 0 SECTION 2 ENTITIES" + insert("B10") + " 0 ENDSEC");
+  const OdGiContextForDbDatabase context(database.get());
+  OdGiRecorder recorder;
+  OdGiWorldDraw draw(recorder, context);
+  draw.draw(*odOpen<OdDbEntity>(modelOf(*database)[0]));
+  EXPECT_GT(recorder.primitives().size(), 100'000u);
+  EXPECT_TRUE(recorder.getModelToWorldTransform().isEqualTo(OdGeMatrix3d()));
+  ASSERT_EQ(context.diagnostics().size(), 1u);
+  EXPECT_EQ(context.diagnostics()[0], OdString(u"Block B10 holds too much to be drawn whole"));
+}
+
+TEST(DrawingDefects, an_array_of_more_cells_than_can_be_counted_is_drawn_up_to_a_bound) {
+  const OdDbDatabasePtr database = read("0 SECTION 2 BLOCKS" + block("A", "") +
+                                        " 0 ENDSEC 0 SECTION 2 ENTITIES 0 INSERT 2 A 10 0.0 20 0.0"
+                                        " 70 2000000000 71 2000000000 44 1.0 45 1.0 0 ENDSEC");
+  const OdGiContextForDbDatabase context(database.get());
+  OdGiRecorder recorder;
+  OdGiWorldDraw draw(recorder, context);
+  draw.draw(*odOpen<OdDbEntity>(modelOf(*database)[0]));
+  ASSERT_EQ(context.diagnostics().size(), 1u);
+  EXPECT_EQ(context.diagnostics()[0], OdString(u"Block A holds too much to be drawn whole"));
+}
+
 TEST(DrawingDefects, what_is_no_drawing_is_refused_in_one_sentence) {
   try {
     OdDbDatabase::readBytes("Dear Sir,\nplease find enclosed\n", "letter.dxf");
