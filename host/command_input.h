@@ -21,6 +21,8 @@ class HostCommandInput {
   void eraseLast();
   void endLine();
   void cancel();
+  /// Forgets what has been typed of a line that has not ended.
+  void dropUnfinished() { m_line.clear(); }
   /// Takes the next whole line or cancel; nothing if none is waiting.
   std::optional<HostInput> take();
   /// What has been typed of a line that has not ended.

@@ -39,5 +39,6 @@ void HostIdleFilter::edit(const OdGePoint3d& point) {
   const OdDbObjectId id = entityAt(point);
   if (id.isNull() || !odCast<OdDbMText>(id.openObject())) return;
   m_document.pickFirst() = HostSelectionSet(id);
+  m_document.commandInput().dropUnfinished();
   m_document.commandInput().type(u"MTextEdit^M");
 }

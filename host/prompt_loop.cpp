@@ -25,6 +25,8 @@ int HostPromptLoop::ask(const HostPromptRequest& request, const HostReading& rea
   m_line.showPrompt(reading.prompt);
   std::optional<int> answer;
   while (!answer) answer = answerTo(nextInput(), reading, wait);
+  // Half a line that a press made needless is no beginning of the next answer.
+  m_document.commandInput().dropUnfinished();
   m_line.showPrompt(u"");
   return *answer;
 }

@@ -182,3 +182,19 @@ TEST_F(Idle, a_double_click_on_a_multi_line_text_edits_it) {
 }
 
 }  // namespace
+
+TEST_F(Idle, a_double_click_on_a_multi_line_text_forgets_half_a_command) {
+  text({100, 100, 0});
+  int runs = 0;
+  application.commandFactory().registerCommand(
+      u"MTextEdit",
+      [&runs]() -> OdSmartPtr<ICmdProcess> {
+        ++runs;
+        return nullptr;
+      },
+      u"HOST", kCommandUsesPickFirst);
+  application.input().message({.number = WM_CHAR, .code = u'S'});
+  application.input().message({.number = WM_LBUTTONDBLCLK, .point = {120, 95, 0}});
+  HostCommandLoop(application, application.document()).runUntilEnd();
+  EXPECT_EQ(runs, 1);
+}

@@ -118,6 +118,17 @@ TEST_F(Prompt, characters_and_enter_in_the_view_make_a_typed_line) {
   EXPECT_EQ(point, (OdGePoint3d{7, 9, 0}));
 }
 
+TEST_F(Prompt, half_a_line_that_a_press_made_needless_is_no_beginning_of_the_next_answer) {
+  input.message({.number = WM_CHAR, .code = u'5'});
+  input.click({1, 2, 0});
+  EXPECT_EQ(prompt.getPoint({.prompt = u"Where"}, point), kAnswerValue);
+  EXPECT_EQ(point, (OdGePoint3d{1, 2, 0}));
+  for (const char16_t unit : std::u16string_view(u"7,8")) input.message({.number = WM_CHAR, .code = unit});
+  input.key(VK_RETURN);
+  EXPECT_EQ(prompt.getPoint({.prompt = u"Where"}, point), kAnswerValue);
+  EXPECT_EQ(point, (OdGePoint3d{7, 8, 0}));
+}
+
 TEST_F(Prompt, a_string_ends_at_its_first_blank_or_takes_the_whole_line) {
   std::u16string text;
   input.line(u" two words ");
