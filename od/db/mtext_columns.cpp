@@ -1,5 +1,6 @@
 #include "od/db/mtext_columns.h"
 
+#include <algorithm>
 #include <cmath>
 
 #include "od/db/mtext_subclass.h"
@@ -14,7 +15,8 @@ int countOf(const OdDbEmbeddedMText& embedded) {
   const int count = embedded.integer(72, 0);
   const double pitch = embedded.real(44, 0) + embedded.real(45, 0);
   if (count > 0 || pitch <= 0) return count;
-  return static_cast<int>(std::lround((embedded.real(42, 0) + embedded.real(45, 0)) / pitch));
+  const double fitting = (embedded.real(42, 0) + embedded.real(45, 0)) / pitch;
+  return static_cast<int>(std::lround(std::fmin(std::fmax(fitting, 0), OdDbMTextColumns::kMostColumns)));
 }
 
 OdDbMTextColumns readEmbedded(const dxf::Record& record) {
@@ -22,7 +24,7 @@ OdDbMTextColumns readEmbedded(const dxf::Record& record) {
   OdDbMTextColumns columns;
   columns.type = embedded.integer(71, 0);
   if (columns.type == 0) return columns;
-  columns.count = countOf(embedded);
+  columns.count = std::min(countOf(embedded), OdDbMTextColumns::kMostColumns);
   columns.width = embedded.real(44, 0);
   columns.gutter = embedded.real(45, 0);
   columns.autoHeight = embedded.integer(73, 0) != 0;
@@ -36,7 +38,8 @@ OdDbMTextColumns readEmbedded(const dxf::Record& record) {
 OdDbMTextColumns readXdata(const dxf::Record& record, dxf::Range block) {
   OdDbMTextColumns columns;
   columns.type = static_cast<int>(Xdata::integer(record, Xdata::kColumnInfo, 75, 0));
-  columns.count = static_cast<int>(Xdata::integer(record, Xdata::kColumnInfo, 76, 0));
+  columns.count = static_cast<int>(std::clamp<std::int64_t>(Xdata::integer(record, Xdata::kColumnInfo, 76, 0),
+                                                            0, OdDbMTextColumns::kMostColumns));
   columns.width = Xdata::real(record, Xdata::kColumnInfo, 48, 0);
   columns.gutter = Xdata::real(record, Xdata::kColumnInfo, 49, 0);
   columns.autoHeight = Xdata::integer(record, Xdata::kColumnInfo, 79, 0) != 0;

@@ -15,6 +15,9 @@ struct OdDbMTextColumns {
   bool reversed = false;
   std::vector<double> heights;  ///< of dynamic columns without automatic height
 
+  /// More columns than a text can use; a file that counts more is damaged, and layout keeps a height of each.
+  static constexpr int kMostColumns = 10'000;
+
   static OdDbMTextColumns read(const dxf::Record& record);
   /// Writes what differs from the record, in the form of its file. A text without columns keeps none of the
   /// other values.

@@ -86,6 +86,15 @@ TEST(MText, turning_writes_a_direction_and_no_angle) {
   EXPECT_NEAR(Sample(sample.database->writeBytes()).text->direction().y, 1, 1e-12);
 }
 
+TEST(MText, a_count_of_columns_beyond_all_measure_is_bounded) {
+  std::string embedded = kEmbedded, xdata = kXdataColumns, widths = kEmbedded;
+  embedded.replace(embedded.find("72 2 "), 5, "72 2000000000 ");
+  xdata.replace(xdata.find("1070 76 1070 2 "), 15, "1070 76 1070 2000000000 ");
+  widths.replace(widths.find("72 2 "), 5, "72 0 ").replace(widths.find("42 18.0"), 7, "42 1e300");
+  for (const std::string& bytes : {file("AC1032", embedded), file("AC1015", xdata), file("AC1032", widths)})
+    EXPECT_EQ(Sample(bytes).text->getColumnCount(), 10'000);
+}
+
 TEST(MText, columns_are_read_from_the_embedded_object) {
   const Sample sample(file("AC1032", kEmbedded));
   EXPECT_EQ(sample.text->getColumnType(), OdDb::kDynamicColumns);
