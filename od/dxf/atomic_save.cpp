@@ -127,6 +127,9 @@ std::string load_bytes(const fs::path& path) {
   if (!descriptor.is_open() || ::fstat(descriptor.number(), &status) != 0)
     fail(path, "the file cannot be opened");
   if (S_ISDIR(status.st_mode)) throw Error(path.string(), "this is a folder, not a drawing");
+  // Some devices never end.
+  if (S_ISCHR(status.st_mode) || S_ISBLK(status.st_mode))
+    throw Error(path.string(), "this is a device, not a drawing");
   std::string bytes;
   bytes.reserve(static_cast<std::size_t>(status.st_size));
   char block[1 << 16];

@@ -143,6 +143,7 @@ TEST_F(AtomicSave, a_full_disk_leaves_everything_as_it_was) {
 TEST_F(AtomicSave, loading_says_what_is_wrong) {
   EXPECT_EQ(message_of([&] { dxf::load_bytes(folder); }),
             folder.string() + ": this is a folder, not a drawing.");
+  EXPECT_EQ(message_of([&] { dxf::load_bytes("/dev/zero"); }), "/dev/zero: this is a device, not a drawing.");
   EXPECT_EQ(message_of([&] { dxf::load_bytes(drawing); }),
             drawing.string() + ": the file cannot be opened (No such file or directory).");
 }
