@@ -2,6 +2,7 @@
 
 #include <CLI/CLI.hpp>
 #include <charconv>
+#include <cmath>
 #include <sstream>
 
 #include "desk/cli/exit_code.h"
@@ -37,7 +38,10 @@ void readSize(const std::string& text, RenderOptions& options) {
 
 void readWindow(const std::string& text, RenderOptions& options) {
   const std::vector<double> ends = numbers<double>(text, ',');
-  if (ends.size() != 4 || ends[0] == ends[2] || ends[1] == ends[3])
+  const auto spans = [&](std::size_t from, std::size_t to) {
+    return ends[from] != ends[to] && std::isfinite(ends[to] - ends[from]);
+  };
+  if (ends.size() != 4 || !spans(0, 2) || !spans(1, 3))
     throw CLI::ValidationError("--window", "\"" + text + "\" is no window such as 0,0,100,50.");
   OdGeExtents3d box;
   box.addPoint({ends[0], ends[1], 0});

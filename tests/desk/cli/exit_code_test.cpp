@@ -25,6 +25,8 @@ TEST(Program, ends_with_2_when_it_is_called_wrongly) {
   EXPECT_EQ(runProgram("render a.dxf -o a.gif").exit_code, 2);
   EXPECT_EQ(runProgram("render a.dxf -o a.png --size 0x5").exit_code, 2);
   EXPECT_EQ(runProgram("render a.dxf -o a.png --window 1,2,3").exit_code, 2);
+  EXPECT_EQ(runProgram("render a.dxf -o a.png --window nan,0,1,1").exit_code, 2);
+  EXPECT_EQ(runProgram("render a.dxf -o a.png --window 0,-1e308,1,1e308").exit_code, 2);
   EXPECT_EQ(runProgram("render a.dxf -o a.png --background green").exit_code, 2);
   EXPECT_EQ(runProgram("--unknown").exit_code, 2);
 }
