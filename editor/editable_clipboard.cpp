@@ -107,6 +107,9 @@ void ExMTextEditable::pastePlain(std::u16string_view text) {
 
 void ExMTextEditable::paste(bool single_line, bool non_empty) {
   deleteSelection(/*mark_changed=*/false);
+  // The lines are laid out anew even if nothing takes the place of what was erased; the lists are not
+  // counted.
+  m_layout_dirty = true;
   HostClipboard* board = clipboard();
   if (!board) return;
   if (!single_line) {

@@ -21,6 +21,7 @@ mtext::marks::index level_of_kind(std::uint32_t kind, std::size_t alphabet, std:
 void ExMTextEditable::renumber() {
   mtext::mark_numberings(m_text, m_letters);
   mtext::marks::update_numberings(m_text.marks, m_letters);
+  const editing::label_end_scope ends(m_text);
   mtext::update_every_numbering(m_text, *m_finder, m_letters);
   m_numbering_dirty = false;
   m_layout_dirty = true;
@@ -35,6 +36,7 @@ void ExMTextEditable::removeLabel(std::size_t start) {
 
 void ExMTextEditable::setLabel(std::size_t start, const mtext::marks::index& level) {
   if (numbering* label = editing::label_at(m_text, start)) {
+    const editing::label_end_scope ends(m_text);
     label->indices.back() = level;
     mtext::update_numbering(m_text, *label, *m_finder, m_letters);
     return;

@@ -24,6 +24,7 @@ void step_tabs(std::vector<mtext::format::tab_stop>& tabs, bool back) {
 }  // namespace
 
 void ExMTextEditable::indentLabel(numbering& label, bool back) {
+  const editing::label_end_scope ends(m_text);
   mtext::indent_numbering(m_text, label, mtext::paragraph_at(m_text, label.begin), *m_finder, !back,
                           m_letters);
   m_numbering_dirty = true;

@@ -1,5 +1,7 @@
 #include "editor/list_labels.h"
 
+#include "editor/selection_scope.h"
+
 #include "mtext/label_text.h"
 #include "mtext/marks.h"
 #include "mtext/numbering.h"
@@ -73,6 +75,17 @@ void hang_label(mtext::format::paragraph& paragraph) {
   paragraph.indent = -kHang;
   paragraph.left = kHang;
   paragraph.tabs = {{kHang, 0, u' '}};
+}
+
+label_end_scope::label_end_scope(mtext::geom_multitext& text) {
+  for (auto* range : selection_marks(text)) {
+    const numbering* label = range->empty() ? nullptr : label_before(text, range->end);
+    if (label) m_bonds.push_back({range, label});
+  }
+}
+
+label_end_scope::~label_end_scope() {
+  for (const bond& each : m_bonds) each.range->end = each.label->end;
 }
 
 bool clean_labels(mtext::geom_multitext& text, const mtext::string_size_finder& finder) {

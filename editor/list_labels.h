@@ -41,4 +41,21 @@ void hang_label(mtext::format::paragraph& paragraph);
 /// Returns whether anything did.
 bool clean_labels(mtext::geom_multitext& text, const mtext::string_size_finder& finder);
 
+/// Holds the selections that end with a label to it while the label is written anew, which would leave their
+/// ends in front of it. The marks of the labels have to outlive the scope.
+class label_end_scope {
+ public:
+  explicit label_end_scope(mtext::geom_multitext& text);
+  ~label_end_scope();
+  label_end_scope(const label_end_scope&) = delete;
+  label_end_scope& operator=(const label_end_scope&) = delete;
+
+ private:
+  struct bond {
+    mtext::marks::selection* range;
+    const mtext::marks::numbering* label;
+  };
+  std::vector<bond> m_bonds;
+};
+
 }  // namespace editing

@@ -56,3 +56,10 @@ TEST(Clipboard, pasted_items_are_counted) {
   edited_text text("1.→a¶2.→[b¶3.→c]");
   EXPECT_EQ(text.keys("Ctrl+c PageDown Enter Backspace Ctrl+v").drawn(), "1.→a¶2.→b¶3.→c¶b¶4.→c|");
 }
+
+TEST(Clipboard, pasting_nothing_over_a_selection_erases_it_and_lays_the_text_out) {
+  edited_text text("ab[cd¶ef]");
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "ab|");
+  ASSERT_EQ(text.text().lineCount(), 1U);
+  EXPECT_EQ(text.text().text().lines[0].last, 2U);
+}

@@ -78,3 +78,8 @@ TEST(ListLabels, take_the_format_of_the_text_behind_them) {
   text.text().applyFormat({.color = mtext::format::text_color{.kind = 0, .index = 3}});
   EXPECT_EQ(text.keys("End x").codes(), "{\\C3;1.\tax}");
 }
+
+TEST(ListLabels, a_selection_that_ends_with_a_label_still_does_when_the_label_is_written_anew) {
+  EXPECT_EQ(edit("1.→a[b¶2.→]c", "Tab"), "1.1.→a[b¶1.2.→]c");
+  EXPECT_EQ(edit("1.→a[b¶2.→]c", "Tab x"), "1.1.→ax|c");
+}
