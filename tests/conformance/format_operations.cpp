@@ -1,7 +1,7 @@
 #include <stdexcept>
 
+#include "desk/text_json/format_json.h"
 #include "mtext/format.h"
-#include "tests/conformance/format_json.h"
 #include "tests/conformance/operations.h"
 
 namespace conformance {

@@ -1,12 +1,12 @@
 #include <map>
 
+#include "desk/text_json/format_json.h"
+#include "desk/text_json/multitext_json.h"
 #include "mtext/dispose.h"
 #include "mtext/flatten.h"
 #include "mtext/to_geom.h"
-#include "tests/conformance/format_json.h"
 #include "tests/conformance/geom_json.h"
 #include "tests/conformance/geom_step.h"
-#include "tests/conformance/multitext_json.h"
 
 namespace conformance {
 namespace {

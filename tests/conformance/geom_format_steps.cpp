@@ -1,7 +1,7 @@
 #include <map>
 
+#include "desk/text_json/format_json.h"
 #include "mtext/format_at.h"
-#include "tests/conformance/format_json.h"
 #include "tests/conformance/geom_step.h"
 
 namespace conformance {

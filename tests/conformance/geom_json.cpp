@@ -2,7 +2,8 @@
 
 #include <memory>
 
-#include "tests/conformance/format_json.h"
+#include "desk/text_json/format_json.h"
+#include "desk/text_json/layout_json.h"
 
 namespace conformance {
 namespace {
@@ -29,23 +30,6 @@ std::u16string text_of(const geom_part& element) {
     default:
       return static_cast<const new_paragraph&>(element.part()).column_break ? u"\\N" : u"\\P";
   }
-}
-
-json write_line(const geom_line& line) {
-  return {{"first", line.first},
-          {"last", line.last},
-          {"x", line.x},
-          {"y", line.y},
-          {"advance", line.size.advance},
-          {"head", line.size.head},
-          {"above", line.size.above},
-          {"below", line.size.below},
-          {"gap", line.size.gap}};
-}
-
-json write_column(const geom_column& column) {
-  return {{"first", column.first}, {"last", column.last},   {"x", column.x},
-          {"y", column.y},         {"width", column.width}, {"height", column.height}};
 }
 
 std::vector<marks::index> read_indices(const json& in) {
@@ -138,10 +122,8 @@ json write_geom(const geom_multitext& text) {
   for (const geom_part& each : text.parts) {
     parts.push_back({each.type(), write_text(text_of(each)), each.x, each.y, each.size.advance});
   }
-  json& lines = out["lines"] = json::array();
-  for (const geom_line& each : text.lines) lines.push_back(write_line(each));
-  json& columns = out["columns"] = json::array();
-  for (const geom_column& each : text.columns) columns.push_back(write_column(each));
+  out["lines"] = write_lines(text);
+  out["columns"] = write_columns(text);
   return out;
 }
 

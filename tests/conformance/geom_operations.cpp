@@ -1,12 +1,12 @@
 #include <stdexcept>
 
+#include "desk/text_json/format_json.h"
+#include "desk/text_json/multitext_json.h"
 #include "mtext/decode.h"
 #include "tests/conformance/answer.h"
 #include "tests/conformance/dictionary_json.h"
-#include "tests/conformance/format_json.h"
 #include "tests/conformance/geom_json.h"
 #include "tests/conformance/geom_step.h"
-#include "tests/conformance/multitext_json.h"
 #include "tests/conformance/operations.h"
 
 namespace conformance {

@@ -1,6 +1,6 @@
+#include "desk/text_json/format_json.h"
+#include "desk/text_json/multitext_json.h"
 #include "mtext/parse.h"
-#include "tests/conformance/format_json.h"
-#include "tests/conformance/multitext_json.h"
 #include "tests/conformance/operations.h"
 
 namespace conformance {

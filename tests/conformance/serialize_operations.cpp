@@ -1,7 +1,7 @@
 #include "mtext/serialize.h"
 
-#include "tests/conformance/format_json.h"
-#include "tests/conformance/multitext_json.h"
+#include "desk/text_json/format_json.h"
+#include "desk/text_json/multitext_json.h"
 #include "tests/conformance/operations.h"
 
 namespace conformance {

@@ -1,10 +1,10 @@
 #include "tests/conformance/session_subject.h"
 
+#include "desk/text_json/format_json.h"
+#include "desk/text_json/multitext_json.h"
 #include "od/db/OdDbDatabase.h"
 #include "tests/conformance/dictionary_json.h"
-#include "tests/conformance/format_json.h"
 #include "tests/conformance/geom_json.h"
-#include "tests/conformance/multitext_json.h"
 #include "tests/mtext/stub_finder.h"
 
 namespace conformance {

@@ -1,8 +1,8 @@
 #include <map>
 
+#include "desk/text_json/format_json.h"
 #include "mtext/flatten.h"
 #include "mtext/serialize.h"
-#include "tests/conformance/format_json.h"
 #include "tests/conformance/session_subject.h"
 
 // The steps that the toolbar and the command make, and the questions.

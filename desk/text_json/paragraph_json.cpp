@@ -1,6 +1,6 @@
-#include "tests/conformance/format_json.h"
+#include "desk/text_json/format_json.h"
 
-namespace conformance {
+namespace text_json {
 
 using mtext::format::line_spacing;
 using mtext::format::paragraph;
@@ -110,4 +110,4 @@ json write_paragraph(const paragraph_partial& partial) {
   return value;
 }
 
-}  // namespace conformance
+}  // namespace text_json

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "desk/text_json/text_json.h"
 #include "mtext/format.h"
-#include "tests/conformance/text_json.h"
 
-namespace conformance {
+namespace text_json {
 
 mtext::format::string read_format(const json& value);
 json write_format(const mtext::format::string& format);
@@ -25,4 +25,4 @@ json write_spacing(const mtext::format::line_spacing& spacing);
 std::vector<mtext::format::tab_stop> read_tabs(const json& value);
 json write_tabs(const std::vector<mtext::format::tab_stop>& tabs);
 
-}  // namespace conformance
+}  // namespace text_json

@@ -2,11 +2,11 @@
 
 #include <memory>
 
+#include "desk/text_json/text_json.h"
 #include "mtext/fields_map.h"
 #include "mtext/multitext.h"
-#include "tests/conformance/text_json.h"
 
-namespace conformance {
+namespace text_json {
 
 /// Throws `std::runtime_error` for a type that no part has.
 std::unique_ptr<mtext::part> read_part(const json& value);
@@ -18,4 +18,4 @@ json write_multitext(const mtext::multitext& text);
 /// A field object for each marker, which evaluates to the marker's text.
 mtext::fields_map read_fields(const json& value);
 
-}  // namespace conformance
+}  // namespace text_json

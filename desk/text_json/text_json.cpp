@@ -1,8 +1,8 @@
-#include "tests/conformance/text_json.h"
+#include "desk/text_json/text_json.h"
 
 #include "od/base/unicode.h"
 
-namespace conformance {
+namespace text_json {
 
 std::u16string read_text(const json& value) { return odToUtf16(value.get_ref<const std::string&>()); }
 
@@ -18,4 +18,4 @@ json object_member(const json& object, const char* name) {
   return found == object.end() ? json::object() : *found;
 }
 
-}  // namespace conformance
+}  // namespace text_json

@@ -1,10 +1,10 @@
-#include "tests/conformance/multitext_json.h"
+#include "desk/text_json/multitext_json.h"
 
 #include <stdexcept>
 
-#include "tests/conformance/format_json.h"
+#include "desk/text_json/format_json.h"
 
-namespace conformance {
+namespace text_json {
 
 namespace {
 
@@ -109,4 +109,4 @@ mtext::fields_map read_fields(const json& value) {
   return fields;
 }
 
-}  // namespace conformance
+}  // namespace text_json

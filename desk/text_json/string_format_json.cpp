@@ -1,6 +1,6 @@
-#include "tests/conformance/format_json.h"
+#include "desk/text_json/format_json.h"
 
-namespace conformance {
+namespace text_json {
 
 namespace {
 
@@ -122,4 +122,4 @@ json write_format(const string_partial& partial) {
   return value;
 }
 
-}  // namespace conformance
+}  // namespace text_json
