@@ -43,6 +43,10 @@ void ExMTextEditable::setLabel(std::size_t start, const mtext::marks::index& lev
   }
   const auto format = mtext::format::insertion_format(m_text, m_default_format, start);
   m_text.insert(start, editing::label_to_insert({level}, format, textHeight(), *m_finder, m_letters));
+  // A selection that ends where the paragraph begins would end in front of the label.
+  const std::size_t behind = editing::label_at(m_text, start)->end;
+  for (mtext::marks::selection* range : editing::selection_marks(m_text))
+    if (!range->empty() && range->end == start) range->end = behind;
   editing::hang_label(mtext::paragraph_at(m_text, start));
 }
 

@@ -58,3 +58,7 @@ TEST(SetNumbering, takes_the_alphabet_that_is_asked_for_and_the_first_for_one_th
   EXPECT_EQ(text.drawn(), "б.→x|");
   EXPECT_EQ(numbered("x|", 1, 7), "a.→x|");
 }
+
+TEST(SetNumbering, leaves_a_selection_that_ends_at_the_start_of_a_paragraph_behind_its_label) {
+  EXPECT_EQ(numbered("a[b¶]c", 0), "1.→a[b¶2.→]c");
+}
