@@ -22,7 +22,7 @@ void Desk::save(const std::filesystem::path& target) {
          [&database, target] { database.writeFile(target); });
 }
 
-std::filesystem::path Desk::file() { return pathOf(document().database().getFilename().str()); }
+std::filesystem::path Desk::file() { return document().database().path(); }
 
 bool Desk::mayLoseDrawing() {
   if (!document().database().isModified()) return true;

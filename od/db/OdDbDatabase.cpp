@@ -29,7 +29,9 @@ OdDbDatabasePtr OdDbDatabase::fromFile(dxf::File file, const OdString& name) {
 }
 
 OdDbDatabasePtr OdDbDatabase::readFile(const std::filesystem::path& path) {
-  return readBytes(dxf::load_bytes(path), path.string());
+  OdDbDatabasePtr database = readBytes(dxf::load_bytes(path), path.string());
+  database->m_path = path;
+  return database;
 }
 
 OdDbDatabasePtr OdDbDatabase::readBytes(std::string bytes, std::string name) {
@@ -44,6 +46,7 @@ OdDbDatabasePtr OdDbDatabase::createEmpty(dxf::Version version) {
 void OdDbDatabase::writeFile(const std::filesystem::path& path) {
   dxf::atomic_save(path, writeBytes());
   m_fileName = odToUtf16(path.string());
+  m_path = path;
   m_modified = false;
 }
 

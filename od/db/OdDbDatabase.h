@@ -37,6 +37,9 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
 
   /// The file's name as it was read or last written; empty for a new drawing.
   OdString getFilename() const;
+  /// The file that it was read from or written to last, in the bytes of the file system, which need not be
+  /// text; empty for a new drawing.
+  const std::filesystem::path& path() const { return m_path; }
   dxf::Version version() const;
   /// True when something differs from the file.
   bool isModified() const { return m_modified; }
@@ -102,6 +105,7 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
   std::unique_ptr<OdDbDrawing> m_drawing;
   std::unordered_map<OdString, std::variant<double, int, OdString>> m_sessionVariables;
   OdString m_fileName;
+  std::filesystem::path m_path;
   mutable std::shared_ptr<OdFontLibrary> m_ownFonts;
   std::shared_ptr<OdDbMTextLayout> m_textLayout;
   std::shared_ptr<OdFontLibrary> m_fonts;

@@ -63,6 +63,17 @@ TEST(RunScript, save_keeps_the_old_drawing_beside) {
   EXPECT_EQ(contentOf(scratch("sample.dxf.bak")), contentOf(drawing));
 }
 
+TEST(RunScript, a_file_whose_name_is_no_utf_8_is_saved_under_its_own_name) {
+  const auto named = scratch("named");
+  std::filesystem::remove_all(named);
+  std::filesystem::create_directory(named);
+  std::filesystem::copy_file(sampleCopy(), named / "caf\xE9.dxf");
+  EXPECT_EQ(runProgram("run 'named/caf\xE9.dxf' -", "Save\n").exit_code, 0);
+  EXPECT_TRUE(std::filesystem::exists(named / "caf\xE9.dxf.bak"));
+  const auto files = std::distance(std::filesystem::directory_iterator(named), {});
+  EXPECT_EQ(files, 2);
+}
+
 TEST(RunScript, save_as_gives_the_drawing_another_name) {
   const auto drawing = sampleCopy();
   EXPECT_EQ(runLines("SaveAs named so.dxf\nSave\n").exit_code, 0);
