@@ -42,14 +42,15 @@ struct Performer {
     return runScript(options);
   }
   int operator()(const RenderOptions& options) const {
-    beQuietAboutRuntimeFolder();
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QGuiApplication application(count, words);
-    return renderDrawing(options);
+    return drawingPictures([&] { return renderDrawing(options); });
+  }
+  int operator()(const MTextOptions& options) const {
+    if (options.picture.empty()) return runMText(options);
+    return drawingPictures([&] { return runMText(options); });
   }
   int operator()(const WindowOptions& options) const {
     if (!hasDisplay()) {
-      std::cerr << "There is no display to open a window on; run, render and text work without one.\n";
+      std::cerr << "There is no display to open a window on; run, render, text and mtext work without one.\n";
       return kExitUsage;
     }
     beQuietAboutRuntimeFolder();
@@ -58,6 +59,15 @@ struct Performer {
     QApplication::setQuitOnLastWindowClosed(false);
     const std::string moduleError = loadModule();
     return runWindow(options.drawing, moduleError);
+  }
+
+  /// Does what paints, without a display.
+  template <typename Action>
+  int drawingPictures(Action action) const {
+    beQuietAboutRuntimeFolder();
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QGuiApplication application(count, words);
+    return action();
   }
 };
 

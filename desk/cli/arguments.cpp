@@ -6,6 +6,7 @@
 #include <sstream>
 
 #include "desk/cli/exit_code.h"
+#include "desk/cli/mtext_arguments.h"
 
 namespace {
 
@@ -49,10 +50,6 @@ void readWindow(const std::string& text, RenderOptions& options) {
   options.window = box;
 }
 
-std::string needsPictureName(const std::string& name) {
-  return canRenderTo(name) ? "" : "\"" + name + "\" ends in none of .png, .svg and .pdf.";
-}
-
 /// The parser and what it fills in. It refers to its own members, so it stays where it is.
 class Parser {
  public:
@@ -62,6 +59,7 @@ class Parser {
     addRun();
     addRender();
     addText();
+    m_mtext_app = addMText(m_app, m_mtext);
   }
   Parser(const Parser&) = delete;
   Parser& operator=(const Parser&) = delete;
@@ -112,6 +110,7 @@ class Parser {
     if (m_run_app->parsed()) return m_run;
     if (m_render_app->parsed()) return m_render;
     if (m_text_app->parsed()) return m_text;
+    if (m_mtext_app->parsed()) return m_mtext;
     return m_window;
   }
 
@@ -119,10 +118,12 @@ class Parser {
   CLI::App* m_run_app = nullptr;
   CLI::App* m_render_app = nullptr;
   CLI::App* m_text_app = nullptr;
+  CLI::App* m_mtext_app = nullptr;
   WindowOptions m_window;
   RunOptions m_run;
   RenderOptions m_render;
   TextOptions m_text;
+  MTextOptions m_mtext;
 };
 
 }  // namespace

@@ -24,18 +24,25 @@ OdGsView viewOf(OdDbDatabase& database, const RenderOptions& options, const Pain
 
 bool canRenderTo(const std::filesystem::path& output) { return pictureForm(output).has_value(); }
 
-int renderDrawing(const RenderOptions& options) {
-  const OdDbDatabasePtr database = openDrawing(options.drawing);
+std::string needsPictureName(const std::string& name) {
+  return canRenderTo(name) ? "" : "\"" + name + "\" ends in none of .png, .svg and .pdf.";
+}
+
+void renderDrawing(OdDbDatabase& database, const std::string& name, const RenderOptions& options) {
   const PaintColors colors(options.background);
-  const OdGsView view = viewOf(*database, options, colors);
-  DrawingPictures pictures(*database);
+  const OdGsView view = viewOf(database, options, colors);
+  DrawingPictures pictures(database);
   pictures.refresh(view);
   for (const OdString& sentence : pictures.diagnostics())
-    std::cerr << options.drawing.string() << ": " << sentence.toUtf8() << '\n';
+    std::cerr << name << ": " << sentence.toUtf8() << '\n';
   const QRectF all(QPointF(0, 0), QSizeF(options.size));
   writePicture(options.output, options.size, colors.background(), [&](QPainter& painter, double lineWidth) {
     paintDrawing(painter, pictures, {colors, pictures.frame().toDevice(view), lineWidth},
                  painter.transform().mapRect(all));
   });
+}
+
+int renderDrawing(const RenderOptions& options) {
+  renderDrawing(*openDrawing(options.drawing), options.drawing.string(), options);
   return kExitDone;
 }

@@ -3,6 +3,7 @@
 #include <QSize>
 #include <filesystem>
 #include <optional>
+#include <string>
 
 #include "desk/painter/paint_colors.h"
 #include "od/ge/OdGeExtents3d.h"
@@ -20,7 +21,12 @@ struct RenderOptions {
 
 /// Whether a picture can be written to a file of this name.
 bool canRenderTo(const std::filesystem::path& output);
+/// What is wrong with a name for a picture, as a sentence; empty if nothing is.
+std::string needsPictureName(const std::string& name);
 
 /// Draws a drawing into a file. A QGuiApplication has to be there. An `ExitCode`; throws OdError and
 /// FileError.
 int renderDrawing(const RenderOptions& options);
+
+/// Draws a drawing that is open already; messages call it `name`. The `drawing` of the options is not read.
+void renderDrawing(OdDbDatabase& database, const std::string& name, const RenderOptions& options);

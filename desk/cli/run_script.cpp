@@ -1,11 +1,9 @@
 #include "desk/cli/run_script.h"
 
-#include <fstream>
 #include <iostream>
-#include <iterator>
 
 #include "desk/cli/exit_code.h"
-#include "desk/cli/file_error.h"
+#include "desk/cli/input_file.h"
 #include "desk/commands/command_table.h"
 #include "desk/document/drawing_file.h"
 #include "desk/script/script_desk.h"
@@ -15,20 +13,8 @@
 
 namespace {
 
-std::string contentOf(std::istream& stream) {
-  return {std::istreambuf_iterator<char>(stream), std::istreambuf_iterator<char>()};
-}
-
-/// The script's name in messages.
-std::string nameOf(const std::filesystem::path& file) {
-  return file == "-" ? "standard input" : file.string();
-}
-
 Script scriptOf(const std::filesystem::path& file) {
-  if (file == "-") return readScript(contentOf(std::cin), nameOf(file));
-  std::ifstream stream(file, std::ios::binary);
-  if (!stream || std::filesystem::is_directory(file)) throw FileError(file, "the script cannot be read.");
-  return readScript(contentOf(stream), nameOf(file));
+  return readScript(readInput(file, "the script"), inputName(file));
 }
 
 void print(std::u16string_view line) { std::cout << odToUtf8(line) << '\n'; }
@@ -51,7 +37,7 @@ int runScript(const RunOptions& options) {
   ScriptDesk desk(openDrawing(options.drawing), std::move(script), print);
   registerDeskCommands(host::command_factory(), desk);
   desk.run();
-  if (tellUnanswered(desk, nameOf(options.script))) return kExitRefused;
+  if (tellUnanswered(desk, inputName(options.script))) return kExitRefused;
   if (!options.output.empty()) desk.save(options.output);
   return kExitDone;
 }

@@ -1,6 +1,7 @@
 #include "desk/text_json/multitext_json.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "desk/text_json/format_json.h"
 
@@ -96,7 +97,7 @@ mtext::multitext read_multitext(const json& value) {
 json write_multitext(const mtext::multitext& text) {
   json parts = json::array();
   for (const auto& part : text.parts) parts.push_back(write_part(part));
-  return {{"paragraph", write_paragraph(text.paragraph)}, {"parts", parts}};
+  return {{"paragraph", write_paragraph(text.paragraph)}, {"parts", std::move(parts)}};
 }
 
 mtext::fields_map read_fields(const json& value) {
