@@ -17,6 +17,9 @@ class text_mouse {
   /// The caret of the pressed selection follows; without a press nothing happens.
   void drag(const OdGePoint2d& at);
   void release();
+  /// A key or a command changes the text or its carets: the press is over, and moves are no drag any more.
+  /// What it kept would point into a text that is no longer there.
+  void forget() { m_selections.clear(); }
   bool is_pressed() const { return !m_selections.empty(); }
 
  private:

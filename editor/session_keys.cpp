@@ -24,7 +24,10 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
   const ExMTextEditablePtr alive(&session.editable());
   const held_keys held = keys_held(message);
   const key_row* row = find_key(message.code, held, session);
-  if (row) perform(session, *row, held, message.repeat);
+  if (row) {
+    session.mouse().forget();
+    perform(session, *row, held, message.repeat);
+  }
   const bool handled = row && row->effect != key_effect::passes;
   if (!handled) session.setKeyDown(false);
 
@@ -41,6 +44,7 @@ void handle_character(smart_edit& session, const HostWindowMessage& message) {
   const bool is_tab = character == u'\t';
   if (session.isKeyDown() || held.ctrl || (is_tab && session.isSingleLine())) return;
   const ExMTextEditablePtr text(&session.editable());
+  session.mouse().forget();
   session.pushUndoStep(kUndoType);
   for (int i = 0; i < message.repeat; ++i) {
     if (is_tab)

@@ -69,6 +69,20 @@ TEST(MessageFilter, the_cursor_is_an_i_beam_over_the_text_and_an_arrow_beside_it
   EXPECT_EQ(text.application().window().cursor(), IDC_ARROW);
 }
 
+TEST(MessageFilter, a_key_while_the_button_is_down_ends_the_drag_so_that_no_caret_points_beyond_the_text) {
+  for (const char* keys : {"Ctrl+Z", "Backspace Backspace Backspace"}) {
+    edited_text text("|", wrapping(40));
+    text.keys("a b c");
+    text.send({.number = WM_LBUTTONDOWN, .point = {39, -1, 0}});
+    text.keys(keys);
+    text.send({.number = WM_MOUSEMOVE, .point = {0.1, -1, 0}});
+    EXPECT_EQ(text.drawn(), "|") << keys;
+    text.send({.number = WM_LBUTTONUP});
+    text.keys("x");
+    EXPECT_EQ(text.drawn(), "x|") << keys;
+  }
+}
+
 TEST(MessageFilter, a_press_captures_the_mouse_until_its_release) {
   edited_text text("ab|", wrapping(40));
   text.send({.number = WM_LBUTTONDOWN, .point = {1, -1, 0}});
