@@ -54,7 +54,8 @@ OdGeExtents3d ExMTextEditable::textExtents() const {
     box.addPoint({line.x, line.y - line.size.below, 0});
     if (line.last == line.first) continue;
     const auto& last = m_text.parts[line.last - 1];
-    box.addPoint({last.x + last.size.advance, line.y, 0});
+    // A line end has a width for the eye's sake alone; it belongs to no text's extents.
+    box.addPoint({mtext::is_terminator(last) ? last.x : last.x + last.size.advance, line.y, 0});
   }
   return box;
 }

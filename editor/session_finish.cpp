@@ -34,12 +34,15 @@ void smart_edit::writeColumns(OdDbMText& target) {
 
 void smart_edit::write(OdDbMText& target) {
   // The entity keeps its own spelling of a text that came out as it went in.
-  if (textChanged())
+  const bool text_changed = textChanged();
+  if (text_changed)
     target.setContents(m_editable->hasFields() ? m_editable->evaluatedContentsText()
                                                : m_editable->contentsText());
   if (m_editable->styleId() != m_origin.style) target.setTextStyle(m_editable->styleId());
   if (!same_columns(m_editable->text().info.columns, m_origin.info.columns)) writeColumns(target);
-  if (m_editable->textHeight() != m_origin.info.height) target.setTextHeight(m_editable->textHeight());
+  // A text without a height was laid out with the least one, and what was typed has to stay as it was seen.
+  if (text_changed || m_editable->textHeight() != m_origin.info.height)
+    target.setTextHeight(m_editable->textHeight());
   if (m_editable->attachment() == m_origin.frame.attachment &&
       m_editable->frame().location == m_origin.frame.location)
     return;

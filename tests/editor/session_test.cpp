@@ -109,6 +109,15 @@ TEST(Session, a_text_height_of_0_opens_the_session_with_0_2) {
   EXPECT_DOUBLE_EQ(drawing.begin().editable().textHeight(), 0.2);
 }
 
+TEST(Session, a_text_of_height_0_that_was_changed_is_written_with_0_2) {
+  edited_drawing drawing;
+  drawing.text->setTextHeight(0);
+  smart_edit& session = drawing.begin();
+  drawing.type(u"My ");
+  session.finishEdit(/*accept=*/true, /*force=*/false);
+  EXPECT_DOUBLE_EQ(drawing.text->textHeight(), 0.2);
+}
+
 TEST(Session, opens_with_the_entity_s_own_format) {
   edited_drawing drawing;
   EXPECT_EQ(drawing.begin().editable().defaultFormat(), mtext::default_mtext_format(drawing.text));
