@@ -40,10 +40,21 @@ std::string rewritten(const std::u16string& text, const mtext::format::string& b
   return odToUtf8(mtext::serialize(parsed(text, base), base, base.height));
 }
 
+void tellLackingFonts(const TextFrame& frame) {
+  for (const std::u16string& sentence : frame.lackingFonts()) std::cerr << odToUtf8(sentence) << '\n';
+}
+
 std::string layoutJson(const TextFrame& frame, const std::u16string& text) {
   const mtext::geom_multitext laid = frame.layOut(text);
+  tellLackingFonts(frame);
   return text_json::json{{"lines", text_json::write_lines(laid)}, {"columns", text_json::write_columns(laid)}}
       .dump();
+}
+
+void draw(const MTextOptions& options, const std::u16string& text) {
+  TextFrame frame(options);
+  frame.draw(text, inputName(options.file), options.picture);
+  tellLackingFonts(frame);
 }
 
 std::string answer(const MTextOptions& options, const std::u16string& text) {
@@ -64,7 +75,7 @@ std::string answer(const MTextOptions& options, const std::u16string& text) {
 int runMText(const MTextOptions& options) {
   const std::u16string text = textOf(options);
   if (!options.picture.empty()) {
-    TextFrame(options).draw(text, inputName(options.file), options.picture);
+    draw(options, text);
     return kExitDone;
   }
   std::cout << answer(options, text) << '\n';

@@ -2,6 +2,7 @@
 
 #include "desk/cli/render_drawing.h"
 #include "desk/document/drawing_file.h"
+#include "desk/document/font_report.h"
 #include "mtext/decode.h"
 #include "mtext/entity/entity_format.h"
 #include "mtext/entity/mtext_size_finder.h"
@@ -53,3 +54,5 @@ void TextFrame::draw(const std::u16string& text, const std::string& name,
   m_text->setContents(OdString(text));
   renderDrawing(*m_drawing, name, {.drawing = {}, .output = picture});
 }
+
+std::vector<std::u16string> TextFrame::lackingFonts() const { return substitutedFonts(*m_drawing); }

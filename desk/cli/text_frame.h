@@ -1,5 +1,8 @@
 #pragma once
 
+#include <string>
+#include <vector>
+
 #include "desk/cli/mtext_command.h"
 #include "mtext/geom_multitext.h"
 #include "od/db/OdDbDatabase.h"
@@ -18,6 +21,9 @@ class TextFrame {
   /// Draws the text into `picture`, whose suffix tells the form; messages call the text `name`. Throws
   /// FileError.
   void draw(const std::u16string& text, const std::string& name, const std::filesystem::path& picture);
+
+  /// The fonts that were asked for so far and that this machine lacks, a sentence each.
+  std::vector<std::u16string> lackingFonts() const;
 
  private:
   OdDbDatabasePtr m_drawing;

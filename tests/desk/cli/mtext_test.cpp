@@ -102,6 +102,15 @@ TEST(MTextLayout, height_and_font_set_the_size_of_letters) {
             firstAdvance("--font 'Liberation Mono'", "iiii"));
 }
 
+TEST(MTextLayout, a_font_that_the_machine_lacks_is_told_beside_the_answer) {
+  for (const std::string options : {"", " --draw lacking.png"}) {
+    const ProgramRun run = runProgram("mtext layout --font 'No Such Font'" + options, "oak");
+    EXPECT_EQ(run.exit_code, 0);
+    EXPECT_THAT(run.err, HasSubstr("No Such Font"));
+  }
+  EXPECT_EQ(runProgram("mtext layout --font 'Liberation Sans'", "oak").err, "");
+}
+
 TEST(MTextLayout, draws_a_picture_instead) {
   EXPECT_EQ(printed("layout --draw text.png --width 40", "\\C1;Table\\Pfor 8"), "");
   const QImage image(QString::fromStdString(scratch("text.png").string()));
