@@ -1,7 +1,9 @@
 #include <QApplication>
+#include <csignal>
 #include <cstdio>
 #include <exception>
 #include <iostream>
+#include <new>
 
 #include "desk/cli/arguments.h"
 #include "desk/cli/exit_code.h"
@@ -74,11 +76,16 @@ struct Performer {
 }  // namespace
 
 int main(int count, char** words) {
+  // A file that grows over the limit of its user shall be refused in a sentence, not end the program.
+  std::signal(SIGXFSZ, SIG_IGN);
   try {
     return std::visit(Performer{count, words}, readArguments(count, words));
   } catch (const ScriptError& error) {
     std::cerr << error.what() << '\n';
     return kExitRefused;
+  } catch (const std::bad_alloc&) {
+    std::cerr << "The drawing needs more memory than there is.\n";
+    return kExitFileError;
   } catch (const std::exception& error) {
     std::cerr << error.what() << '\n';
     return kExitFileError;
