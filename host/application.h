@@ -30,6 +30,7 @@ class HostApplication {
   virtual HostTickSource& ticks() = 0;
   /// Cursor, mouse capture and menus of the drawing view.
   virtual HostWindow& window() = 0;
-  /// Paints what has been invalidated, before it returns.
+  /// Has what was invalidated painted. A window paints when the handler that asked is done, since a text may
+  /// not be laid out yet when it asks.
   virtual void updateNow() = 0;
 };
