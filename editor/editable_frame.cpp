@@ -1,9 +1,11 @@
 #include <algorithm>
 
 #include "editor/editable.h"
+#include "mtext/entity/mtext_layout.h"
 
 void ExMTextEditable::setFrame(const text_frame& frame) {
   m_frame = frame;
+  m_frame.leading = mtext::last_line_leading(m_text);
   setAttachment(frame.attachment);
 }
 

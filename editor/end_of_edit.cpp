@@ -1,6 +1,7 @@
 #include "editor/editable.h"
 #include "editor/list_labels.h"
 #include "mtext/dispose.h"
+#include "mtext/entity/mtext_layout.h"
 #include "mtext/format_at.h"
 
 namespace {
@@ -26,6 +27,7 @@ void ExMTextEditable::recomputeCurrentFormats() {
 
 void ExMTextEditable::layOut() {
   mtext::dispose(m_text);
+  m_frame.leading = mtext::last_line_leading(m_text);
   m_layout_dirty = false;
   recomputeCurrentFormats();
 }

@@ -99,7 +99,7 @@ bool smart_edit::beginMTextEdit(OdDbMTextPtr source, const session_start& start)
   const auto contents = mtext::contents_of(source);
   m_editable->setContents(contents.text, contents.fields);
   m_editable->load();
-  const OdGeVector2d box = mtext::attachment_box(m_editable->text());
+  const OdGeVector2d box = mtext::column_box(m_editable->text());
   m_editable->setFrame({.location = source->location(),
                         .normal = source->normal(),
                         .direction = source->direction(),

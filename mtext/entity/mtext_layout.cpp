@@ -28,8 +28,23 @@ geom_multitext laid_out(const OdDbMText& text) {
 
 /// From the entity's location to the origin of the laid-out text.
 OdGeVector2d origin_offset(const geom_multitext& text) {
-  const OdGeVector2d box = attachment_box(text);
-  return {-box.x * 0.5 * (text.info.alignment - 1), box.y * 0.5 * text.info.vertical};
+  const OdGeVector2d box = column_box(text);
+  return {-box.x * 0.5 * (text.info.alignment - 1),
+          (box.y - last_line_leading(text)) * 0.5 * text.info.vertical};
+}
+
+/// The column that reaches furthest down from its top; null in a text without any.
+const geom_column* highest_column(const geom_multitext& text) {
+  const auto found = std::max_element(text.columns.begin(), text.columns.end(),
+                                      [](const auto& a, const auto& b) { return a.height < b.height; });
+  return found == text.columns.end() ? nullptr : &*found;
+}
+
+/// The last line of a column, the empty one behind a closing line end included; null where there is none.
+const geom_line* last_line_of(const geom_multitext& text, const geom_column& column) {
+  const auto behind = std::find_if(text.lines.rbegin(), text.lines.rend(),
+                                   [&](const geom_line& line) { return line.last <= column.last; });
+  return behind == text.lines.rend() ? nullptr : &*behind;
 }
 
 /// The right end of a line's letters; its break does not count.
@@ -41,12 +56,18 @@ double right_end(const geom_multitext& text, const geom_line& line) {
 
 }  // namespace
 
-OdGeVector2d attachment_box(const geom_multitext& text) {
+OdGeVector2d column_box(const geom_multitext& text) {
   const auto& columns = text.info.columns;
   const std::size_t set = columns.kind == 2 ? 1 : columns.heights.size();
   const auto count = static_cast<double>(std::max(set, text.columns.size()));
   return {columns.width * count + columns.gutter * (count - 1),
           *std::max_element(columns.heights.begin(), columns.heights.end())};
+}
+
+double last_line_leading(const geom_multitext& text) {
+  const geom_column* column = highest_column(text);
+  const geom_line* line = column ? last_line_of(text, *column) : nullptr;
+  return line ? line->y - (column->y - column->height) : 0;
 }
 
 OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
@@ -60,7 +81,8 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
     high = {std::max(high.x, right_end(laid, line)), std::max(high.y, line.y + line.size.above)};
   }
   const OdGeVector2d offset = origin_offset(laid);
-  return {high.x - low.x, high.y - low.y, low + offset, high + offset};
+  const double height = highest_column(laid)->height - last_line_leading(laid);
+  return {high.x - low.x, height, low + offset, high + offset};
 }
 
 void mtext_layout::draw(const OdDbMText& text, OdGiWorldDraw& draw) {

@@ -12,8 +12,13 @@ class mtext_layout : public OdDbMTextLayout {
   void draw(const OdDbMText& text, OdGiWorldDraw& draw) override;
 };
 
-/// Width and height of the box that a text's attachment refers to: of all columns that its settings or its
+/// Width and height of the box that a text's columns are set to: of all columns that its settings or its
 /// layout have, and of the highest of them. 0 where none is set.
-OdGeVector2d attachment_box(const geom_multitext& text);
+OdGeVector2d column_box(const geom_multitext& text);
+
+/// How far the highest column of a laid-out text reaches below its last baseline, in drawing units. A column
+/// ends a whole line pitch below its last line's top, but a text is attached by its letters: a bottom
+/// attachment point lies on the last baseline, a middle one halfway between it and the first line's top.
+double last_line_leading(const geom_multitext& text);
 
 }  // namespace mtext

@@ -8,7 +8,7 @@ class OdGiWorldDraw;
 /// Size of a laid-out multi-line text, in drawing units.
 struct OdDbMTextMeasure {
   double width = 0;     ///< of the widest line or of all columns
-  double height = 0;    ///< of the lines or of the highest column
+  double height = 0;    ///< from the first line's top to the last baseline of the highest column
   OdGePoint2d minimum;  ///< lower left of the box in text coordinates (origin at the location)
   OdGePoint2d maximum;  ///< upper right
 };

@@ -34,9 +34,9 @@ double OdDbMText::actualHeight() const { return measured().height; }
 void OdDbMText::setAttachmentMovingLocation(OdDb::AttachmentPoint attachment) {
   if (this->attachment() == attachment) return;
   const OdDbMTextMeasure size = measured();
-  const OdGeVector2d box = size.maximum - size.minimum;
-  const OdGePoint3d moved{size.minimum.x + box.x * columnOf(attachment) / 2,
-                          size.maximum.y - box.y * rowOf(attachment) / 2, 0};
+  const double box = size.maximum.x - size.minimum.x;
+  const OdGePoint3d moved{size.minimum.x + box * columnOf(attachment) / 2,
+                          size.maximum.y - size.height * rowOf(attachment) / 2, 0};
   setLocation(textToWorld() * moved);
   setAttachment(attachment);
 }

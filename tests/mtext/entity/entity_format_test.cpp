@@ -155,6 +155,43 @@ TEST_F(EntityFormat, the_attachment_point_is_the_location) {
   EXPECT_NEAR(same.minPoint().y, box.minPoint().y, 1e-9);
 }
 
+TEST_F(EntityFormat, a_capital_stands_on_its_bottom_point_around_its_middle_point_and_under_its_top_point) {
+  text->setContents(u"H");
+  text->setTextHeight(2.5);
+  for (const double height : {0.0, 30.0}) {
+    text->setHeight(height);
+    for (const auto& [attachment, bottom] :
+         {std::pair{OdDb::kBottomCenter, 0.0}, std::pair{OdDb::kMiddleCenter, -1.25},
+          std::pair{OdDb::kTopCenter, -2.5}}) {
+      text->setAttachment(attachment);
+      const OdGeExtents3d ink = drawn().extents();
+      EXPECT_NEAR(ink.minPoint().y, bottom, 0.02);
+      EXPECT_NEAR(ink.maxPoint().y, bottom + 2.5, 0.02);
+    }
+  }
+}
+
+TEST_F(EntityFormat, several_lines_are_attached_by_the_first_top_and_the_last_baseline) {
+  text->setContents(u"H\\PH\\PH");
+  text->setTextHeight(3);
+  EXPECT_NEAR(text->actualHeight(), 13, 1e-9);
+  text->setAttachment(OdDb::kMiddleLeft);
+  const OdGeExtents3d ink = drawn().extents();
+  EXPECT_NEAR(ink.minPoint().y, -6.5, 0.02);
+  EXPECT_NEAR(ink.maxPoint().y, 6.5, 0.02);
+}
+
+TEST_F(EntityFormat, a_new_attachment_that_moves_the_location_leaves_the_letters_where_they_were) {
+  text->setContents(u"H\\PH");
+  const OdGeExtents3d before = drawn().extents();
+  for (int attachment = 9; attachment >= 1; --attachment) {
+    text->setAttachmentMovingLocation(static_cast<OdDb::AttachmentPoint>(attachment));
+    const OdGeExtents3d now = drawn().extents();
+    EXPECT_NEAR(now.minPoint().y, before.minPoint().y, 1e-9) << attachment;
+    EXPECT_NEAR(now.maxPoint().y, before.maxPoint().y, 1e-9) << attachment;
+  }
+}
+
 TEST_F(EntityFormat, a_letter_is_drawn_within_the_extents) {
   text->setContents(u"H");
   text->setLocation({10, 10, 0});
