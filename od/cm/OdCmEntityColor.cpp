@@ -5,6 +5,10 @@
 OdCmEntityColor OdCmEntityColor::fromIndex(int index) {
   if (index == kACIbyBlock) return OdCmEntityColor(kByBlock);
   if (index < 1 || index > 255) return OdCmEntityColor(kByLayer);
+  return withIndex(index);
+}
+
+OdCmEntityColor OdCmEntityColor::withIndex(int index) {
   OdCmEntityColor color(kByACI);
   color.m_value = static_cast<std::uint32_t>(index);
   return color;
@@ -12,9 +16,10 @@ OdCmEntityColor OdCmEntityColor::fromIndex(int index) {
 
 OdCmEntityColor OdCmEntityColor::fromRaw(std::uint32_t raw) {
   auto method = static_cast<ColorMethod>(raw >> 24);
+  const int index = static_cast<int>(raw & 0xFFFF);
   switch (method) {
     case kByACI:
-      return fromIndex(static_cast<int>(raw & 0xFFFF));
+      return index == kACInone ? withIndex(index) : fromIndex(index);
     case kByColor:
       return {static_cast<std::uint8_t>(raw >> 16), static_cast<std::uint8_t>(raw >> 8),
               static_cast<std::uint8_t>(raw)};

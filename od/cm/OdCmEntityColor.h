@@ -18,6 +18,7 @@ class OdCmEntityColor {
   static constexpr int kACIbyBlock = 0;
   static constexpr int kACIForeground = 7;
   static constexpr int kACIbyLayer = 256;
+  static constexpr int kACInone = 257;  ///< as a raw value alone
 
   /// By layer.
   OdCmEntityColor() = default;
@@ -50,6 +51,8 @@ class OdCmEntityColor {
   friend bool operator==(const OdCmEntityColor&, const OdCmEntityColor&) = default;
 
  private:
+  static OdCmEntityColor withIndex(int index);
+
   ColorMethod m_method = kByLayer;
   std::uint32_t m_value = 0;  ///< 0xRRGGBB or the index
 };

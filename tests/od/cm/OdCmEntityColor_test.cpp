@@ -52,7 +52,7 @@ TEST(OdCmEntityColor, indices_0_and_256_mean_block_and_layer) {
 }
 
 TEST(OdCmEntityColor, raw_values_of_files_survive_the_trip) {
-  for (std::uint32_t raw : {0xC0000000u, 0xC1000000u, 0xC2123456u, 0xC3000005u, 0xC8000000u})
+  for (std::uint32_t raw : {0xC0000000u, 0xC1000000u, 0xC2123456u, 0xC3000005u, 0xC3000101u, 0xC8000000u})
     EXPECT_EQ(OdCmEntityColor::fromRaw(raw).raw(), raw);
 }
 
