@@ -3,10 +3,12 @@
 #include <exception>
 #include <string>
 
+#include "od/base/export.h"
+
 namespace mtext {
 
 /// An internal condition did not hold: a fault of ours, or objects that do not belong together.
-class ensure_error : public std::exception {
+class SCRIBE_EXPORT ensure_error : public std::exception {
  public:
   /// The text is "ensure '<condition>' fails: <message>".
   ensure_error(const std::string& condition, const std::string& message)

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "mtext/tab_stop.h"
+#include "od/base/export.h"
 
 namespace mtext::format {
 
@@ -51,20 +52,20 @@ struct paragraph_partial {
 };
 
 /// Every field of `p` but `relative`, set. Lengths are taken as they are, not scaled.
-paragraph_partial to_partial(const paragraph& p);
+SCRIBE_EXPORT paragraph_partial to_partial(const paragraph& p);
 
 /// Writes the set fields of `q` into `p`, except `tabs`.
-void apply_to(paragraph& p, const paragraph_partial& q);
+SCRIBE_EXPORT void apply_to(paragraph& p, const paragraph_partial& q);
 /// Copies the seven fields `indent` to `spacing` of `b` into `a`, their emptiness included. `tabs` stay.
-void apply_to(paragraph_partial& a, const paragraph_partial& b);
+SCRIBE_EXPORT void apply_to(paragraph_partial& a, const paragraph_partial& b);
 
 /// The change that leads from `a` to `b`. Lengths in drawing units are divided by `base`, the base text
 /// height, first; those that differ by less than 0.0001 count as the same. Spacings and tabs are never
 /// scaled.
-paragraph_partial merge(double base, const paragraph& a, const paragraph& b);
+SCRIBE_EXPORT paragraph_partial merge(double base, const paragraph& a, const paragraph& b);
 
 /// The fields of `a` that are set and equal in `b`. `tabs` are an exception on purpose: they are those of
 /// `b`, whatever `a` held.
-paragraph_partial intersection(const paragraph_partial& a, const paragraph_partial& b);
+SCRIBE_EXPORT paragraph_partial intersection(const paragraph_partial& a, const paragraph_partial& b);
 
 }  // namespace mtext::format

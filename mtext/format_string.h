@@ -7,6 +7,7 @@
 #include <utility>
 
 #include "mtext/text_color.h"
+#include "od/base/export.h"
 
 /// The records of all text formatting: complete formats of characters and paragraphs, and the partial records
 /// that express a change, a difference or what several formats have in common.
@@ -47,7 +48,7 @@ struct string {
 
 /// Heights are compared with `tolerance`, the other reals exactly: deliberately stricter than `merge`, so
 /// that two records can be unequal and yet have an empty difference.
-bool operator==(const string& a, const string& b);
+SCRIBE_EXPORT bool operator==(const string& a, const string& b);
 
 /// A subset of the fields of `string`. A fresh one holds nothing: its optionals are empty, its three-valued
 /// flags indeterminate.
@@ -70,26 +71,26 @@ struct string_partial {
 };
 
 /// Every field of `s`, set.
-string_partial to_partial(const string& s);
+SCRIBE_EXPORT string_partial to_partial(const string& s);
 
 /// Writes every set field of `p` into `s` and returns `s`. A height overwrites, it does not multiply.
-string& apply_to(string& s, const string_partial& p);
+SCRIBE_EXPORT string& apply_to(string& s, const string_partial& p);
 /// A copy of `s` with every set field of `p` written into it.
-string applied_to(const string& s, const string_partial& p);
+SCRIBE_EXPORT string applied_to(const string& s, const string_partial& p);
 /// Every set field of `b` overrides that of `a`; returns `a`.
-string_partial& apply_to(string_partial& a, const string_partial& b);
+SCRIBE_EXPORT string_partial& apply_to(string_partial& a, const string_partial& b);
 /// A copy of `a` with every set field of `b` overriding.
-string_partial applied_to(const string_partial& a, const string_partial& b);
+SCRIBE_EXPORT string_partial applied_to(const string_partial& a, const string_partial& b);
 
 /// The change that leads from `a` to `b`: a field is set only where they differ by `tolerance` or more, or,
 /// if it is no real, at all. The height of a change is the ratio of the two, a factor.
-string_partial merge(const string& a, const string& b);
+SCRIBE_EXPORT string_partial merge(const string& a, const string& b);
 
 /// What `a` and `b` have in common: fields that are set and equal in both.
-string_partial intersection(const string_partial& a, const string_partial& b);
+SCRIBE_EXPORT string_partial intersection(const string_partial& a, const string_partial& b);
 
 /// True when `p` changes neither name, character set, pitch, weight nor slant of the font. `is_shx` does not
 /// count.
-bool is_default_format(const string_partial& p);
+SCRIBE_EXPORT bool is_default_format(const string_partial& p);
 
 }  // namespace mtext::format

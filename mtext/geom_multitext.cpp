@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "mtext/marks.h"
+#include "mtext/marks_adjust.h"
 
 namespace mtext {
 namespace {

@@ -7,6 +7,7 @@
 #include "mtext/geom_line.h"
 #include "mtext/geom_part.h"
 #include "mtext/mark.h"
+#include "od/base/export.h"
 
 namespace mtext {
 
@@ -27,7 +28,7 @@ struct text_hit {
 /// A value: a copy clones all parts and marks, a move leaves its source without any. Lines and columns are
 /// stale from an edit until the next `dispose`. Parts and marks move only through the members here; every
 /// mark that was in range stays in range. Their exceptions are `std::invalid_argument`.
-class geom_multitext {
+class SCRIBE_EXPORT geom_multitext {
  public:
   /// A `count` that reaches to the end of the text.
   static constexpr std::size_t to_end = static_cast<std::size_t>(-1);
@@ -91,7 +92,7 @@ class geom_multitext {
 
 /// The format of the paragraph that holds position `at`: that of the nearest paragraph end before it, or of
 /// the text. `at` must be a position.
-const format::paragraph& paragraph_at(const geom_multitext& text, std::size_t at);
-format::paragraph& paragraph_at(geom_multitext& text, std::size_t at);
+SCRIBE_EXPORT const format::paragraph& paragraph_at(const geom_multitext& text, std::size_t at);
+SCRIBE_EXPORT format::paragraph& paragraph_at(geom_multitext& text, std::size_t at);
 
 }  // namespace mtext

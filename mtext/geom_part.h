@@ -6,6 +6,7 @@
 
 #include "mtext/part.h"
 #include "mtext/string_size_finder.h"
+#include "od/base/export.h"
 
 namespace mtext {
 
@@ -14,7 +15,7 @@ namespace mtext {
 /// Every concrete class is at the same time a logical part, which `part()` gives. Beware that both worlds
 /// have a `clone`: through `geom_part` it copies the whole element, through the logical part only what is
 /// logical.
-class geom_part {
+class SCRIBE_EXPORT geom_part {
  public:
   geom_part() = default;
   geom_part(const geom_part&) = default;
@@ -45,14 +46,14 @@ inline geom_part* new_clone(const geom_part& source) { return source.clone(); }
 /// Makes `G` the heap copy of itself. It stands between `geom_part` and `geom_impl` so that the logical
 /// part's own `clone` is left as it is.
 template <class G>
-class geom_clone : public geom_part {
+class SCRIBE_EXPORT geom_clone : public geom_part {
  public:
   geom_part* clone() const override { return new G(static_cast<const G&>(*this)); }
 };
 
 /// Joins an element with the logical part `P` that it is.
 template <class G, class P>
-class geom_impl : public geom_clone<G>, public P {
+class SCRIBE_EXPORT geom_impl : public geom_clone<G>, public P {
  public:
   explicit geom_impl(P logical) : P(std::move(logical)) {}
 
@@ -62,21 +63,21 @@ class geom_impl : public geom_clone<G>, public P {
 };
 
 /// One character of a word.
-class geom_word : public geom_impl<geom_word, string> {
+class SCRIBE_EXPORT geom_word : public geom_impl<geom_word, string> {
  public:
   using geom_impl::geom_impl;
   void update(const string_size_finder& finder) override;
 };
 
 /// One breakable blank.
-class geom_spaces : public geom_impl<geom_spaces, spaces> {
+class SCRIBE_EXPORT geom_spaces : public geom_impl<geom_spaces, spaces> {
  public:
   using geom_impl::geom_impl;
   void update(const string_size_finder& finder) override;
 };
 
 /// A tab. Its `advance` is the work of layout.
-class geom_tab : public geom_impl<geom_tab, tab> {
+class SCRIBE_EXPORT geom_tab : public geom_impl<geom_tab, tab> {
  public:
   using geom_impl::geom_impl;
   void update(const string_size_finder& finder) override;
@@ -84,14 +85,14 @@ class geom_tab : public geom_impl<geom_tab, tab> {
 
 /// A line end inside a paragraph. It is a fifth of its line height wide, which is what a selection shows of
 /// it.
-class geom_new_line : public geom_impl<geom_new_line, new_line> {
+class SCRIBE_EXPORT geom_new_line : public geom_impl<geom_new_line, new_line> {
  public:
   using geom_impl::geom_impl;
   void update(const string_size_finder& finder) override;
 };
 
 /// A stacked fraction, whose digits have 0.7 of the height of the text around them.
-class geom_stack : public geom_impl<geom_stack, stack> {
+class SCRIBE_EXPORT geom_stack : public geom_impl<geom_stack, stack> {
  public:
   using geom_impl::geom_impl;
   void update(const string_size_finder& finder) override;
@@ -101,7 +102,7 @@ class geom_stack : public geom_impl<geom_stack, stack> {
 };
 
 /// A paragraph end, as wide as a line end. It carries the format of the paragraph that begins behind it.
-class geom_new_paragraph : public geom_impl<geom_new_paragraph, new_paragraph> {
+class SCRIBE_EXPORT geom_new_paragraph : public geom_impl<geom_new_paragraph, new_paragraph> {
  public:
   using geom_impl::geom_impl;
   void update(const string_size_finder& finder) override;

@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+#include "od/base/export.h"
+
 namespace mtext::marks {
 
 /// The letters of one language, as lists count with them.
@@ -19,7 +21,7 @@ struct alphabet {
 
 /// The alphabets that lettered lists may use. The place of an alphabet is the `alphabet` of an `index`; of
 /// two that share a letter, the first claims it.
-struct letters_dictionary : std::vector<alphabet> {
+struct SCRIBE_EXPORT letters_dictionary : std::vector<alphabet> {
   using vector::vector;
 
   /// Reads an object of objects in UTF-8, one for each alphabet in the order of the document:
@@ -30,6 +32,6 @@ struct letters_dictionary : std::vector<alphabet> {
 };
 
 /// English alone: what there is without any settings.
-const letters_dictionary& default_letters();
+SCRIBE_EXPORT const letters_dictionary& default_letters();
 
 }  // namespace mtext::marks

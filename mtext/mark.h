@@ -8,6 +8,8 @@
 #include <utility>
 #include <vector>
 
+#include "od/base/export.h"
+
 /// Ranges of a text that survive edits. A position is an index into `geom_multitext::parts`: position p
 /// stands before part p, and the number of parts is the end of the text.
 namespace mtext::marks {
@@ -20,7 +22,7 @@ struct replaced_range {
 };
 
 /// A plain range. The base of all marks, and of use by itself.
-class mark {
+class SCRIBE_EXPORT mark {
  public:
   mark() = default;
   mark(std::size_t from, std::size_t to) : begin(from), end(to) {}
@@ -45,7 +47,7 @@ using mark_list = boost::ptr_vector<mark>;
 inline mark* new_clone(const mark& source) { return source.clone(); }
 
 /// A caret, or a range of selected text with its caret at one end and its anchor at the other.
-class selection : public mark {
+class SCRIBE_EXPORT selection : public mark {
  public:
   selection() = default;
   /// A caret.
@@ -65,7 +67,7 @@ class selection : public mark {
 };
 
 /// A range that the caret cannot enter.
-class solid : public mark {
+class SCRIBE_EXPORT solid : public mark {
  public:
   solid() = default;
   solid(std::size_t from, std::size_t to, bool with_begin) : mark(from, to), include_begin(with_begin) {}
@@ -78,7 +80,7 @@ class solid : public mark {
 };
 
 /// The characters into which the text of a field was unrolled.
-class field : public solid {
+class SCRIBE_EXPORT field : public solid {
  public:
   field() = default;
   field(std::size_t from, std::size_t to, std::u16string code_text)
@@ -102,7 +104,7 @@ inline bool operator==(const index& a, const index& b) {
 
 /// The label of a list item and the tab behind it. The caret may stand at the end of the paragraph before and
 /// behind the label, but not right before the label.
-class numbering : public solid {
+class SCRIBE_EXPORT numbering : public solid {
  public:
   numbering() : solid(0, 0, /*with_begin=*/false) {}
   /// Throws `std::invalid_argument` without levels.

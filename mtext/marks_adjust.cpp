@@ -1,6 +1,6 @@
 #include <algorithm>
 
-#include "mtext/marks.h"
+#include "mtext/marks_adjust.h"
 
 namespace mtext::marks {
 namespace {

@@ -5,6 +5,7 @@
 #include <string>
 
 #include "mtext/format.h"
+#include "od/base/export.h"
 
 namespace mtext {
 
@@ -21,7 +22,7 @@ enum part_type : std::uint32_t {
 
 /// One element of a logical text. It carries its whole character format: there is no tree of formats.
 /// Callers ask `type()` and cast statically.
-struct part {
+struct SCRIBE_EXPORT part {
   mtext::format::string format;
 
   virtual ~part() = default;
@@ -39,7 +40,7 @@ struct part {
 };
 
 /// A word. A blank inside `text` is one that does not break.
-struct string : part {
+struct SCRIBE_EXPORT string : part {
   std::u16string text;
 
   string(mtext::format::string f, std::u16string t) : part(std::move(f)), text(std::move(t)) {}
@@ -48,7 +49,7 @@ struct string : part {
 };
 
 /// A run of `count` blanks at which a line may break.
-struct spaces : part {
+struct SCRIBE_EXPORT spaces : part {
   std::uint32_t count;
 
   spaces(mtext::format::string f, std::uint32_t n) : part(std::move(f)), count(n) {}
@@ -57,14 +58,14 @@ struct spaces : part {
 };
 
 /// A tab character.
-struct tab : part {
+struct SCRIBE_EXPORT tab : part {
   explicit tab(mtext::format::string f) : part(std::move(f)) {}
   std::uint32_t type() const override { return part_tab; }
   tab* clone() const override { return new tab(*this); }
 };
 
 /// A line break inside a paragraph.
-struct new_line : part {
+struct SCRIBE_EXPORT new_line : part {
   explicit new_line(mtext::format::string f) : part(std::move(f)) {}
   std::uint32_t type() const override { return part_new_line; }
   /// Deliberately forgets the format: texts that went through `clone` have always been written with line
@@ -74,7 +75,7 @@ struct new_line : part {
 
 /// A stacked fraction. `format.height` is the height of the surrounding text; the digits are drawn at 0.7 of
 /// it.
-struct stack : part {
+struct SCRIBE_EXPORT stack : part {
   std::u16string numerator;
   std::u16string denominator;
   /// The separator: 0 `/`, 1 `^`, 2 `#`.
@@ -87,7 +88,7 @@ struct stack : part {
 };
 
 /// The end of a paragraph and the beginning of the next.
-struct new_paragraph : part {
+struct SCRIBE_EXPORT new_paragraph : part {
   /// The whole format of the paragraph that begins here, no difference to the one before.
   mtext::format::paragraph paragraph;
   /// The next paragraph stands in a new column.
@@ -100,7 +101,7 @@ struct new_paragraph : part {
 };
 
 /// A field of the entity.
-struct field : part {
+struct SCRIBE_EXPORT field : part {
   /// The text between the markers "%<" and ">%", as found.
   std::u16string code;
   /// The evaluated text, when a field object was bound.

@@ -2,7 +2,7 @@
 #include <stdexcept>
 
 #include "mtext/geom_multitext.h"
-#include "mtext/marks.h"
+#include "mtext/marks_adjust.h"
 
 namespace mtext {
 namespace {

@@ -3,6 +3,7 @@
 #include <string_view>
 
 #include "mtext/format.h"
+#include "od/base/export.h"
 
 namespace mtext {
 
@@ -41,7 +42,7 @@ inline double ink_width(const string_metrics& size) {
 ///
 /// The height of the format must be absolute, in drawing units. An implementation may cache by format and
 /// text, but the same question must always have the same answer.
-class string_size_finder {
+class SCRIBE_EXPORT string_size_finder {
  public:
   virtual ~string_size_finder() = default;
 

@@ -3,6 +3,8 @@
 #include <cstdint>
 #include <vector>
 
+#include "od/base/export.h"
+
 namespace mtext::format {
 
 /// One tab stop of a paragraph.
@@ -17,18 +19,18 @@ struct tab_stop {
 
 /// True when both positions agree within 1024 machine epsilons of the larger one. Positions that are not
 /// finite have to be equal exactly.
-bool equal_positions(double a, double b);
+SCRIBE_EXPORT bool equal_positions(double a, double b);
 
 /// True when both stops are of one kind at one position and, for decimal tabs, align one separator.
-bool equal_tabs(const tab_stop& a, const tab_stop& b);
+SCRIBE_EXPORT bool equal_tabs(const tab_stop& a, const tab_stop& b);
 
 /// True when both lists hold equal stops in the same order.
-bool equal_tabs(const std::vector<tab_stop>& a, const std::vector<tab_stop>& b);
+SCRIBE_EXPORT bool equal_tabs(const std::vector<tab_stop>& a, const std::vector<tab_stop>& b);
 
 /// Sorts the stops by position; those at equal positions stay in order.
-void sort_tabs(std::vector<tab_stop>& tabs);
+SCRIBE_EXPORT void sort_tabs(std::vector<tab_stop>& tabs);
 
 /// Sorts the stops, and of each run of equal neighbours keeps the first.
-void clean_tabs(std::vector<tab_stop>& tabs);
+SCRIBE_EXPORT void clean_tabs(std::vector<tab_stop>& tabs);
 
 }  // namespace mtext::format

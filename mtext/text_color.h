@@ -2,6 +2,8 @@
 
 #include <cstdint>
 
+#include "od/base/export.h"
+
 namespace mtext::format {
 
 /// The colour of a run of text: an index of the drawing's palette, or a true colour of four bytes.
@@ -19,6 +21,6 @@ struct text_color {
 };
 
 /// Colours by index are equal by index; all others by their four bytes.
-bool operator==(const text_color& a, const text_color& b);
+SCRIBE_EXPORT bool operator==(const text_color& a, const text_color& b);
 
 }  // namespace mtext::format

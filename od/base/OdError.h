@@ -4,9 +4,10 @@
 #include <string>
 
 #include "od/base/OdResult.h"
+#include "od/base/export.h"
 
 /// A failure of the drawing library. `what` is one sentence in UTF-8 for the user.
-class OdError : public std::runtime_error {
+class SCRIBE_EXPORT OdError : public std::runtime_error {
  public:
   explicit OdError(OdResult code);
   /// A sentence of the caller's own, with the general code.
@@ -20,14 +21,14 @@ class OdError : public std::runtime_error {
 };
 
 /// An object is not of the class that the code needs.
-class OdError_NotThatKindOfClass : public OdError {
+class SCRIBE_EXPORT OdError_NotThatKindOfClass : public OdError {
  public:
   /// `have` and `want` are class names.
   OdError_NotThatKindOfClass(const std::string& have, const std::string& want);
 };
 
 /// An index lies outside its array.
-class OdError_InvalidIndex : public OdError {
+class SCRIBE_EXPORT OdError_InvalidIndex : public OdError {
  public:
   OdError_InvalidIndex() : OdError(eInvalidIndex) {}
 };

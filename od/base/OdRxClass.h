@@ -2,6 +2,7 @@
 
 #include "od/base/OdSmartPtr.h"
 #include "od/base/OdString.h"
+#include "od/base/export.h"
 
 class OdRxObject;
 
@@ -10,7 +11,7 @@ using OdPseudoConstructor = OdSmartPtr<OdRxObject> (*)();
 
 /// What is known of a class at run time. Records live until the program ends or `deleteOdRxClass` takes them
 /// away.
-class OdRxClass {
+class SCRIBE_EXPORT OdRxClass {
  public:
   struct Description {
     OdString name{};                    ///< class name, unique in the program
@@ -44,10 +45,10 @@ class OdRxClass {
 };
 
 /// Registers a class. Throws `OdError` when a class of the name exists.
-OdRxClass* newOdRxClass(OdRxClass::Description description);
+SCRIBE_EXPORT OdRxClass* newOdRxClass(OdRxClass::Description description);
 
 /// Takes a class out of the register and destroys its record. No object of the class may be left.
-void deleteOdRxClass(OdRxClass* record);
+SCRIBE_EXPORT void deleteOdRxClass(OdRxClass* record);
 
 /// The record registered under `name`, or null.
-OdRxClass* odrxFindClass(std::u16string_view name);
+SCRIBE_EXPORT OdRxClass* odrxFindClass(std::u16string_view name);

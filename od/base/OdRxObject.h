@@ -3,9 +3,10 @@
 #include <atomic>
 
 #include "od/base/OdRxClass.h"
+#include "od/base/export.h"
 
 /// Root of all counted objects. A new object starts with one reference, which belongs to its maker.
-class OdRxObject {
+class SCRIBE_EXPORT OdRxObject {
  public:
   OdRxObject(const OdRxObject&) = delete;
   OdRxObject& operator=(const OdRxObject&) = delete;

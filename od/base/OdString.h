@@ -5,12 +5,13 @@
 #include <string>
 #include <string_view>
 
+#include "od/base/export.h"
 #include "od/base/unicode.h"
 
 /// A text of the drawing library: UTF-16 units, held by value.
 /// It is a thin coat over `std::u16string` and converts to it and from it without being asked; a `char`
 /// literal is UTF-8.
-class OdString {
+class SCRIBE_EXPORT OdString {
  public:
   OdString() = default;
   OdString(std::u16string text) : m_text(std::move(text)) {}

@@ -3,10 +3,11 @@
 #include <vector>
 
 #include "od/base/OdRxObject.h"
+#include "od/base/export.h"
 
 /// A field: a piece of text that a program evaluates, such as the date or the name of the file.
 /// A container field holds the text of its host, with `%<\_FldIdx n>%` in place of its child `n`.
-class OdDbField : public OdRxObject {
+class SCRIBE_EXPORT OdDbField : public OdRxObject {
   ODRX_DECLARE_MEMBERS(OdDbField)
 
  public:
