@@ -27,6 +27,13 @@ macro(scribe_house_settings)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
     add_link_options(-fsanitize=address,undefined)
   endif()
+  if(SCRIBE_FUZZ)
+    # What each target reaches is counted in the libraries too; a number that its type cannot hold is a finding.
+    set(instruments address,undefined,float-cast-overflow)
+    add_compile_options(-fsanitize=fuzzer-no-link,${instruments} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    add_compile_definitions(_GLIBCXX_ASSERTIONS)
+    add_link_options(-fsanitize=${instruments})
+  endif()
 endmacro()
 
 # scribe_library(NAME [STATIC] DEPS target...): the library of the current folder, made of the sources that lie directly in it.
