@@ -1,39 +1,13 @@
+#include "tests/mtext/geom_laws.h"
+
 #include <gtest/gtest.h>
 
-#include <sstream>
-
-#include "mtext/dispose.h"
 #include "mtext/to_geom.h"
-#include "tests/mtext/generated_text.h"
 
 namespace mtext {
 namespace {
 
 constexpr int rounds = 500;
-
-/// Everything that layout writes, exactly.
-std::string layout_of(const geom_multitext& text) {
-  std::ostringstream out;
-  out << std::hexfloat;
-  for (const geom_part& each : text.parts) out << each.x << ' ' << each.y << ' ' << each.size.advance << '\n';
-  for (const geom_line& each : text.lines) {
-    out << "line " << each.first << ' ' << each.last << ' ' << each.x << ' ' << each.y << ' '
-        << each.size.advance << ' ' << each.size.head << ' ' << each.size.above << ' ' << each.size.below
-        << ' ' << each.size.gap << '\n';
-  }
-  for (const geom_column& each : text.columns) {
-    out << "column " << each.first << ' ' << each.last << ' ' << each.x << ' ' << each.y << ' ' << each.width
-        << ' ' << each.height << '\n';
-  }
-  return out.str();
-}
-
-std::string marks_of(const geom_multitext& text) {
-  std::ostringstream out;
-  for (const marks::mark& each : text.marks)
-    out << typeid(each).name() << each.begin << '-' << each.end << ' ';
-  return out.str();
-}
 
 /// Every part measured and placed anew.
 geom_multitext laid_out_from_scratch(const geom_multitext& text) {
@@ -47,77 +21,27 @@ geom_multitext laid_out_from_scratch(const geom_multitext& text) {
   return fresh;
 }
 
-/// The ranges follow each other from the first part to the last.
-template <class Range>
-void expect_cover(const std::vector<Range>& ranges, std::size_t size) {
-  std::size_t at = 0;
-  for (const Range& each : ranges) {
-    EXPECT_EQ(each.first, at);
-    EXPECT_LE(each.first, each.last);
-    at = each.last;
-  }
-  EXPECT_EQ(at, size);
-}
-
-void expect_marks_in_range(const geom_multitext& text) {
-  for (const marks::mark& each : text.marks) {
-    ASSERT_NO_THROW(text.verify_mark(each));
-    ASSERT_LE(each.begin, each.end);
-  }
-}
-
-void edit(geom_multitext& text, text_generator& random) {
-  const std::size_t size = text.parts.size();
-  const std::size_t first = random.below(size + 1);
-  const std::size_t count = random.below(size - first + 1);
-  switch (random.below(4)) {
-    case 0:
-      return text.erase(first, count, random.below(2) == 0);
-    case 1:
-      return text.append(random.text(5));
-    case 2:
-      return random.below(3) == 0 ? text.keep(first, count) : text.erase(first, count / 4, true);
-    default:
-      return text.insert(first, random.text(8));
-  }
+geom_multitext marked_text(text_generator& random, std::size_t most) {
+  geom_multitext text = random.text(most);
+  add_marks(text, random);
+  return text;
 }
 
 TEST(Laws, dispose_twice_changes_nothing) {
   text_generator random(1);
-  for (int round = 0; round < rounds; ++round) {
-    geom_multitext text = random.text(40);
-    const std::string once = layout_of(text);
-    dispose(text);
-    ASSERT_EQ(layout_of(text), once) << "round " << round;
-  }
+  for (int round = 0; round < rounds; ++round) expect_dispose_again_changes_nothing(random.text(40));
 }
 
 TEST(Laws, lines_and_columns_cover_the_parts_without_gap_or_overlap) {
   text_generator random(2);
-  for (int round = 0; round < rounds; ++round) {
-    const geom_multitext text = random.text(40);
-    expect_cover(text.lines, text.parts.size());
-    expect_cover(text.columns, text.parts.size());
-    for (std::size_t i = 0; i + 1 < text.lines.size(); ++i)
-      ASSERT_LT(text.lines[i].first, text.lines[i].last);
-  }
+  for (int round = 0; round < rounds; ++round) expect_lines_and_columns_cover(random.text(40));
 }
 
 TEST(Laws, insert_then_erase_restores_parts_marks_and_layout) {
   text_generator random(3);
   for (int round = 0; round < rounds; ++round) {
-    geom_multitext text = random.text(40);
-    for (int i = 0; i < 5; ++i) text.marks.push_back(random.mark(text.parts.size()));
-    const std::string parts = drawn(text), marks = marks_of(text), layout = layout_of(text);
-    const geom_multitext inserted = random.text(10);
-    const std::size_t at = random.below(text.parts.size() + 1);
-    text.insert(at, inserted);
-    dispose(text);
-    text.erase(at, inserted.parts.size(), /*drop_empty=*/true);
-    dispose(text);
-    ASSERT_EQ(drawn(text), parts);
-    ASSERT_EQ(marks_of(text), marks);
-    ASSERT_EQ(layout_of(text), layout) << "round " << round;
+    const geom_multitext text = marked_text(random, 40);
+    expect_insert_then_erase_restores(text, random.text(10), random.below(text.parts.size() + 1));
   }
 }
 
@@ -125,20 +49,14 @@ TEST(Laws, two_halves_appended_give_the_text) {
   text_generator random(4);
   for (int round = 0; round < rounds; ++round) {
     const geom_multitext text = random.text(40);
-    const std::size_t middle = random.below(text.parts.size() + 1);
-    geom_multitext joined = text.slice(0, middle);
-    joined.append(text.slice(middle, geom_multitext::to_end));
-    dispose(joined);
-    ASSERT_EQ(drawn(joined), drawn(text));
-    ASSERT_EQ(layout_of(joined), layout_of(text)) << "round " << round;
+    expect_halves_give_the_text(text, random.below(text.parts.size() + 1));
   }
 }
 
 TEST(Laws, a_slice_is_what_a_copy_keeps) {
   text_generator random(5);
   for (int round = 0; round < rounds; ++round) {
-    geom_multitext text = random.text(20);
-    for (int i = 0; i < 5; ++i) text.marks.push_back(random.mark(text.parts.size()));
+    geom_multitext text = marked_text(random, 20);
     const std::size_t first = random.below(text.parts.size() + 1);
     const std::size_t count = random.below(text.parts.size() - first + 1);
     const geom_multitext slice = text.slice(first, count);
@@ -150,17 +68,7 @@ TEST(Laws, a_slice_is_what_a_copy_keeps) {
 
 TEST(Laws, every_mark_stays_in_range_under_any_sequence_of_edits) {
   text_generator random(6);
-  for (int round = 0; round < rounds / 5; ++round) {
-    geom_multitext text = random.text(20);
-    for (int step = 0; step < 20; ++step) {
-      text.marks.push_back(random.mark(text.parts.size()));
-      edit(text, random);
-      expect_marks_in_range(text);
-      marks::slide_selections(text.marks);
-      marks::merge_selections(text.marks);
-      expect_marks_in_range(text);
-    }
-  }
+  for (int round = 0; round < rounds / 5; ++round) expect_marks_stay_in_range(random.text(20), random);
 }
 
 TEST(Laws, a_layout_after_edits_equals_one_from_scratch) {
