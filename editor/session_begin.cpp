@@ -84,6 +84,7 @@ void smart_edit::startEditing(const session_start& start) {
   m_editable->endOfEdit(/*relayout=*/true);
   // Behind the first count of the lists: a text of which nobody changed anything keeps its own numbers.
   takeOrigin();
+  placeInView();
   repaint(redraw_request::kGadgets | redraw_request::kText);
 }
 

@@ -26,6 +26,7 @@ smart_edit::smart_edit(EditHost& host)
                                        .gadgets = [this](OdGiViewportDraw& draw) { drawGadgets(draw); }}),
       m_redraw(host.view().overlay(), m_layers.gadgets(), m_layers.text()),
       m_filter(*this) {
+  m_view_policy.begin(host.view().gsView());
   m_editable->addWatcher(*this);
   m_host.messages().pushFilter(m_filter, kFilterLevel);
   if (HostApplication* application = host::application())
@@ -67,14 +68,18 @@ void smart_edit::repaint(unsigned layers) {
 }
 
 std::optional<OdGePoint2d> smart_edit::textPoint(const OdGePoint3d& world) const {
-  const OdGePoint3d seen = m_view_policy.edit_transform().inverse() * world;
+  const OdGeMatrix3d to_drawing = m_view_policy.edit_transform().inverse();
   const OdGePlane plane = m_editable->plane();
+  const OdGeLine3d sight(to_drawing * world, (to_drawing * m_host.view().gsView().viewDir()).normal());
   OdGePoint3d at;
-  if (!OdGeLine3d(seen, m_host.view().gsView().viewDir()).intersectWith(plane, at)) return std::nullopt;
+  if (!sight.intersectWith(plane, at)) return std::nullopt;
   return plane.paramOf(at);
 }
 
-void smart_edit::onChanged() { m_redraw.set(redraw_request::kGadgets); }
+void smart_edit::onChanged() {
+  m_redraw.set(redraw_request::kGadgets);
+  placeInView();
+}
 
 HostWindow* smart_edit::window() {
   HostApplication* application = host::application();

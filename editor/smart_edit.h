@@ -104,6 +104,12 @@ class smart_edit : public MTextEditor {
   void write(OdDbMText& target);
   void writeColumns(OdDbMText& target);
   void write(OdDbText& target);
+  // ---- session_view.cpp
+
+  /// The text as the view policy looks at it.
+  editing::shown_text shownText() const;
+  /// Has the view policy look at the text.
+  void placeInView();
   void drawText(OdGiWorldDraw& draw);
   void drawCaret(OdGiViewportDraw& draw);
   void drawGadgets(OdGiViewportDraw& draw);
