@@ -43,9 +43,17 @@ def value_in_binary(form, value):
     return struct.pack(form, float(value) if form == "<d" else int(value))
 
 
-def as_binary(groups):
-    return BINARY_HEAD + b"".join(struct.pack("<h", code) + value_in_binary(form_of(code), value)
-                                  for code, value in groups)
+def code_in_two_bytes(code):
+    return struct.pack("<h", code)
+
+
+def code_in_one_byte(code):
+    """As drawings up to R12 have it."""
+    return bytes([code]) if code < 255 else b"\xff" + struct.pack("<h", code)
+
+
+def as_binary(groups, code_bytes=code_in_two_bytes):
+    return BINARY_HEAD + b"".join(code_bytes(code) + value_in_binary(form_of(code), value) for code, value in groups)
 
 
 def section(name, records):
@@ -91,3 +99,4 @@ def dxf_read():
             yield as_text(groups)
             yield as_text(groups, b"\r\n")
             yield as_binary(groups)
+            yield as_binary(groups, code_in_one_byte)

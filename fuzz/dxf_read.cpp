@@ -4,9 +4,11 @@
 #include <string_view>
 
 #include "fuzz/require.h"
+#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
-#include "od/db/OdDbDrawing.h"
-#include "od/db/OdDbEntity.h"
+#include "od/db/OdDbDictionary.h"
+#include "od/db/OdDbMText.h"
+#include "od/db/OdDbText.h"
 #include "od/dxf/file.h"
 #include "od/dxf/text_codec.h"
 
@@ -84,10 +86,38 @@ void readRecords(const std::string& bytes) {
   require(file.write() == bytes, "an unchanged file is written with the bytes that were read");
 }
 
+/// Reads all texts of a block, and returns one that can be changed; null if there is none.
+OdSmartPtr<OdDbMText> readTexts(OdDbObjectId block) {
+  OdSmartPtr<OdDbMText> found;
+  for (const OdDbObjectId& id : odOpen<OdDbBlockTableRecord>(block)->entities()) {
+    if (const auto text = odOpen<OdDbMText>(id)) found = text;
+    if (const auto line = odOpen<OdDbText>(id)) line->textString();
+    if (found) found->contents();
+  }
+  return found;
+}
+
+/// Gives a text other contents: they are there when the drawing was saved and is read again.
+void changeContents(OdDbDatabase& database, OdDbMText& text) {
+  const OdDbHandle handle = text.objectId().getHandle();
+  const OdString contents = u"{\\H2x;Room} 12";
+  text.upgradeOpen();
+  text.setContents(contents);
+  text.downgradeOpen();
+  const OdDbDatabasePtr again = OdDbDatabase::readBytes(database.writeBytes(), kName);
+  const auto found = odOpen<OdDbMText>(again->getOdDbObjectId(handle));
+  // Of several objects with one handle, another one may be found.
+  require(!found || database.getOdDbObjectId(handle) != text.objectId() || found->contents() == contents,
+          "saved contents are read again");
+}
+
 void readDatabase(const std::string& bytes) {
   const OdDbDatabasePtr database = OdDbDatabase::readBytes(bytes, kName);
+  const OdSmartPtr<OdDbMText> text = readTexts(database->getModelSpaceId());
+  readTexts(database->getPaperSpaceId());
   require(!database->isModified(), "what was only read is unchanged");
   require(database->writeBytes() == bytes, "an unchanged drawing is saved with the bytes that were read");
+  if (text) changeContents(*database, *text);
 }
 
 template <typename Read>

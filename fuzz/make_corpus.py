@@ -15,6 +15,7 @@ SEEDS = {
     "edit_sequence": text_seeds.edit_sequence,
     "letters_json": text_seeds.letters_json,
     "dxf_read": drawing_seeds.dxf_read,
+    "dxf_draw": drawing_seeds.dxf_read,
     "fonts_read": font_seeds.fonts_read,
 }
 

@@ -91,7 +91,7 @@ class Record {
   /// Indices of all groups `code` in `range`, under the same rule.
   std::vector<std::size_t> find_all(int code, Range range) const;
 
-  /// The value at `index`; nothing where it cannot be read as that type.
+  /// The value at `index`; nothing where it cannot be read as that type. A real is always finite.
   std::optional<double> get_double(std::size_t index) const;
   /// Accepts integers written as reals.
   std::optional<std::int64_t> get_int(std::size_t index) const;

@@ -1,4 +1,5 @@
 #include <bit>
+#include <cmath>
 
 #include "od/base/OdError.h"
 #include "od/dxf/little_endian.h"
@@ -20,7 +21,9 @@ std::optional<double> Record::get_double(std::size_t index) const {
   if (manner_->form == Form::ascii) return parse_double(group.value());
   if (is_integer(group.type())) return static_cast<double>(read_signed_little_endian(group.value()));
   if (group.type() != ValueType::real) return std::nullopt;
-  return std::bit_cast<double>(read_little_endian(group.value()));
+  // As in a text drawing, what is infinite or no number is no value: nobody behind here expects one.
+  const double value = std::bit_cast<double>(read_little_endian(group.value()));
+  return std::isfinite(value) ? std::optional(value) : std::nullopt;
 }
 
 std::optional<std::int64_t> Record::get_int(std::size_t index) const {

@@ -36,6 +36,18 @@ TEST(FileBinary, values_have_the_width_of_their_code) {
   EXPECT_EQ(file.write(), bytes);
 }
 
+TEST(FileBinary, a_real_that_is_infinite_or_no_number_is_no_value) {
+  const std::string bytes =
+      binary_drawing(binary_text(0, "CIRCLE") + binary_group(40, std::string("\0\0\0\0\0\0\xF0\x7F", 8)) +
+                     binary_group(50, std::string("\0\0\0\0\0\0\xF8\x7F", 8)));
+  File file = File::read(bytes, "plan.dxf");
+  const dxf::Record& record = entity(file);
+  EXPECT_FALSE(record.get_double(1).has_value());
+  EXPECT_FALSE(record.get_double(2).has_value());
+  EXPECT_EQ(record.double_or(40, record.whole(), 1.0), 1.0);
+  EXPECT_EQ(file.write(), bytes);
+}
+
 TEST(FileBinary, changed_values_are_written_in_binary) {
   File file = File::read(binary_drawing(binary_text(0, "TEXT") + binary_text(1, "old") +
                                         binary_group(62, std::string("\1\0", 2))),
