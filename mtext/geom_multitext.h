@@ -16,10 +16,10 @@ struct text_hit {
   /// The value of `line` in a text without lines.
   static constexpr std::size_t no_line = static_cast<std::size_t>(-1);
 
-  std::size_t at = 0;  ///< position in the text
-  std::size_t line = no_line;
-  std::size_t column = 0;  ///< the number of columns if no column holds `at`
-  bool outside = true;     ///< the point lies outside the box of the line and its column
+  std::size_t at = 0;          ///< position in the text
+  std::size_t line = no_line;  ///< index into `lines`
+  std::size_t column = 0;      ///< the number of columns if no column holds `at`
+  bool outside = true;         ///< the point lies outside the box of the line and its column
 };
 
 /// A laid-out text: one element per character, the lines and columns that `dispose` made of them, and the
@@ -40,7 +40,7 @@ class SCRIBE_EXPORT geom_multitext {
   geom_multitext& operator=(geom_multitext&& other) noexcept;
   ~geom_multitext() = default;
 
-  void swap(geom_multitext& other) noexcept;
+  void swap(geom_multitext& other) noexcept;  ///< exchanges everything, at no cost
 
   /// Adds parts and marks of `other` at the end, and leaves it without them. Own marks stay as they are.
   void append(geom_multitext&& other);

@@ -33,7 +33,7 @@ class SCRIBE_EXPORT mark {
   /// A heap copy of the same dynamic type, owned by the caller.
   virtual mark* clone() const { return new mark(*this); }
 
-  bool empty() const { return begin == end; }
+  bool empty() const { return begin == end; }  ///< covers nothing
 
   std::size_t begin = 0;  ///< first position
   std::size_t end = 0;    ///< position behind the last; equals `begin` for an empty mark
@@ -59,8 +59,8 @@ class SCRIBE_EXPORT selection : public mark {
 
   selection* clone() const override { return new selection(*this); }
 
-  std::size_t caret() const { return caret_at_begin ? begin : end; }
-  std::size_t anchor() const { return caret_at_begin ? end : begin; }
+  std::size_t caret() const { return caret_at_begin ? begin : end; }   ///< the end that keys move
+  std::size_t anchor() const { return caret_at_begin ? end : begin; }  ///< the end that stays
 
   bool caret_at_begin = false;  ///< the caret stands at `begin`, the anchor at `end`; otherwise the reverse
   bool at_line_end = false;     ///< affinity: at a soft wrap the caret stands at the end of the upper line
@@ -98,7 +98,7 @@ struct index {
   std::uint64_t alphabet = 0;  ///< place in the letters dictionary for the kinds 1 and 2, else 0
 };
 
-inline bool operator==(const index& a, const index& b) {
+inline bool operator==(const index& a, const index& b) {  ///< all fields are equal
   return a.value == b.value && a.kind == b.kind && a.alphabet == b.alphabet;
 }
 

@@ -21,7 +21,7 @@ enum part_type : std::uint32_t {
 };
 
 /// One element of a logical text. It carries its whole character format: there is no tree of formats.
-/// Callers ask `type()` and cast statically.
+/// Callers ask `type()` and cast statically. Constructors take the format, then the fields in their order.
 struct SCRIBE_EXPORT part {
   mtext::format::string format;
 
@@ -41,7 +41,7 @@ struct SCRIBE_EXPORT part {
 
 /// A word. A blank inside `text` is one that does not break.
 struct SCRIBE_EXPORT string : part {
-  std::u16string text;
+  std::u16string text;  ///< UTF-16 units, without breakable blanks and tabs
 
   string(mtext::format::string f, std::u16string t) : part(std::move(f)), text(std::move(t)) {}
   std::uint32_t type() const override { return part_string; }
@@ -50,7 +50,7 @@ struct SCRIBE_EXPORT string : part {
 
 /// A run of `count` blanks at which a line may break.
 struct SCRIBE_EXPORT spaces : part {
-  std::uint32_t count;
+  std::uint32_t count;  ///< at least 1
 
   spaces(mtext::format::string f, std::uint32_t n) : part(std::move(f)), count(n) {}
   std::uint32_t type() const override { return part_spaces; }
@@ -76,8 +76,8 @@ struct SCRIBE_EXPORT new_line : part {
 /// A stacked fraction. `format.height` is the height of the surrounding text; the digits are drawn at 0.7 of
 /// it.
 struct SCRIBE_EXPORT stack : part {
-  std::u16string numerator;
-  std::u16string denominator;
+  std::u16string numerator;    ///< plain text; may be empty, as the denominator may
+  std::u16string denominator;  ///< plain text
   /// The separator: 0 `/`, 1 `^`, 2 `#`.
   std::uint32_t kind;
 

@@ -14,7 +14,7 @@ class SCRIBE_EXPORT OdError : public std::runtime_error {
   explicit OdError(const std::string& sentence) : OdError(eGeneralFailure, sentence) {}
   OdError(OdResult code, const std::string& sentence) : std::runtime_error(sentence), m_code(code) {}
 
-  OdResult code() const { return m_code; }
+  OdResult code() const { return m_code; }  ///< what went wrong, for a program to ask
 
  private:
   OdResult m_code;

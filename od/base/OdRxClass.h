@@ -24,15 +24,15 @@ class SCRIBE_EXPORT OdRxClass {
     unsigned proxyFlags = 0;
   };
 
-  explicit OdRxClass(Description description) : m_description(std::move(description)) {}
+  explicit OdRxClass(Description description) : m_description(std::move(description)) {}  ///< unregistered
 
-  const OdString& name() const { return m_description.name; }
-  const OdString& dxfName() const { return m_description.dxfName; }
-  const OdString& appName() const { return m_description.appName; }
-  OdRxClass* myParent() const { return m_description.parent; }
-  int getClassVersion() const { return m_description.dwgVersion; }
-  int getMaintenanceVersion() const { return m_description.maintenanceVersion; }
-  unsigned proxyFlags() const { return m_description.proxyFlags; }
+  const OdString& name() const { return m_description.name; }        ///< see `Description`
+  const OdString& dxfName() const { return m_description.dxfName; }  ///< see `Description`
+  const OdString& appName() const { return m_description.appName; }  ///< see `Description`
+  OdRxClass* myParent() const { return m_description.parent; }       ///< of the base class; null at the root
+  int getClassVersion() const { return m_description.dwgVersion; }   ///< see `Description`
+  int getMaintenanceVersion() const { return m_description.maintenanceVersion; }  ///< see `Description`
+  unsigned proxyFlags() const { return m_description.proxyFlags; }                ///< see `Description`
 
   /// True for `other` itself and for every class below it.
   bool isDerivedFrom(const OdRxClass* other) const;

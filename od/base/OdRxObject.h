@@ -20,14 +20,14 @@ class SCRIBE_EXPORT OdRxObject {
   /// This object seen as `wanted`, with a reference for the caller; null when it is of another class.
   virtual OdRxObject* queryX(const OdRxClass* wanted) const;
 
-  bool isKindOf(const OdRxClass* wanted) const { return isA()->isDerivedFrom(wanted); }
+  bool isKindOf(const OdRxClass* wanted) const { return isA()->isDerivedFrom(wanted); }  ///< or below
 
-  virtual void addRef() { ++m_references; }
+  virtual void addRef() { ++m_references; }  ///< one more reference, for the caller to give back
   /// Gives one reference back; the object ends with the last one.
   virtual void release() {
     if (--m_references == 0) odrxFree();
   }
-  int numRefs() const { return m_references; }
+  int numRefs() const { return m_references; }  ///< references that are held now
 
  protected:
   OdRxObject() = default;
@@ -40,7 +40,7 @@ class SCRIBE_EXPORT OdRxObject {
   std::atomic<int> m_references{1};
 };
 
-using OdRxObjectPtr = OdSmartPtr<OdRxObject>;
+using OdRxObjectPtr = OdSmartPtr<OdRxObject>;  ///< a counted object of any class
 
 /// `object` as a `T`, or null when it is of another class or null itself.
 template <typename T>
@@ -50,7 +50,7 @@ OdSmartPtr<T> odCast(const OdRxObject* object) {
 }
 
 template <typename T, typename U>
-OdSmartPtr<T> odCast(const OdSmartPtr<U>& object) {
+OdSmartPtr<T> odCast(const OdSmartPtr<U>& object) {  ///< the same from a counted pointer
   return odCast<T>(object.get());
 }
 

@@ -14,12 +14,12 @@ enum OdSmartPtrOwnership { kOdRxObjAddRef, kOdRxObjAttach };
 template <typename T>
 class OdSmartPtr {
  public:
-  OdSmartPtr() = default;
-  OdSmartPtr(std::nullptr_t) {}
+  OdSmartPtr() = default;        ///< null
+  OdSmartPtr(std::nullptr_t) {}  ///< null
   OdSmartPtr(T* object, OdSmartPtrOwnership ownership = kOdRxObjAddRef) : m_object(object) {
     if (m_object && ownership == kOdRxObjAddRef) m_object->addRef();
   }
-  OdSmartPtr(const OdSmartPtr& other) : OdSmartPtr(other.m_object) {}
+  OdSmartPtr(const OdSmartPtr& other) : OdSmartPtr(other.m_object) {}  ///< adds a reference
   OdSmartPtr(OdSmartPtr&& other) noexcept : m_object(std::exchange(other.m_object, nullptr)) {}
   /// From a pointer to a derived class.
   template <typename U>
@@ -29,7 +29,7 @@ class OdSmartPtr {
     if (m_object) m_object->release();
   }
 
-  OdSmartPtr& operator=(OdSmartPtr other) noexcept {
+  OdSmartPtr& operator=(OdSmartPtr other) noexcept {  ///< gives the reference held before back
     std::swap(m_object, other.m_object);
     return *this;
   }
@@ -37,11 +37,11 @@ class OdSmartPtr {
   /// Gives the reference back before the pointer's own end.
   void release() { *this = OdSmartPtr(); }
 
-  T* get() const { return m_object; }
-  bool isNull() const { return m_object == nullptr; }
-  explicit operator bool() const { return m_object != nullptr; }
-  T* operator->() const { return checked(); }
-  T& operator*() const { return *checked(); }
+  T* get() const { return m_object; }                             ///< without a reference; may be null
+  bool isNull() const { return m_object == nullptr; }             ///< whether it holds no object
+  explicit operator bool() const { return m_object != nullptr; }  ///< whether it holds an object
+  T* operator->() const { return checked(); }                     ///< throws for null
+  T& operator*() const { return *checked(); }                     ///< throws for null
 
   friend bool operator==(const OdSmartPtr& a, const OdSmartPtr& b) { return a.m_object == b.m_object; }
   friend bool operator==(const OdSmartPtr& a, std::nullptr_t) { return a.m_object == nullptr; }

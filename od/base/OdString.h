@@ -19,7 +19,7 @@ class SCRIBE_EXPORT OdString {
   OdString(const char16_t* text) : m_text(text ? text : u"") {}
   OdString(const char* utf8) : m_text(odToUtf16(utf8 ? utf8 : "")) {}
 
-  operator const std::u16string&() const { return m_text; }
+  operator const std::u16string&() const { return m_text; }  ///< as `str`
 
   /// The units as a standard string; the reference lives as long as this object.
   const std::u16string& str() const { return m_text; }
@@ -37,7 +37,7 @@ class SCRIBE_EXPORT OdString {
   /// gives it.
   int iCompare(std::u16string_view other) const { return odLowerAscii(m_text).compare(odLowerAscii(other)); }
 
-  OdString& operator+=(std::u16string_view tail) {
+  OdString& operator+=(std::u16string_view tail) {  ///< appends
     m_text += tail;
     return *this;
   }
@@ -53,7 +53,7 @@ class SCRIBE_EXPORT OdString {
 };
 
 template <>
-struct std::hash<OdString> {
+struct std::hash<OdString> {  ///< equal texts have equal hashes
   std::size_t operator()(const OdString& text) const noexcept {
     return std::hash<std::u16string>{}(text.str());
   }
