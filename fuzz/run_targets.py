@@ -15,6 +15,8 @@ import make_corpus
 
 HERE = pathlib.Path(__file__).resolve().parent
 LONGEST_INPUT = {"dxf_read": 16384}
+SANITIZERS = {"ASAN_OPTIONS": "allocator_may_return_null=1",
+              "LSAN_OPTIONS": f"suppressions={HERE.parent / 'cmake' / 'leak_suppressions.txt'}:print_suppressions=0"}
 WITH_CODES = ("read_text", "text_round_trip", "edit_sequence", "letters_json")
 REASON = re.compile(r"^Broken law: .*|^.*runtime error: .*|^==\d+==\s*ERROR: .*|^SUMMARY: .*", re.MULTILINE)
 
@@ -39,7 +41,7 @@ def run(build, target, seconds):
     """Runs one target, and returns what to say of it and whether it found nothing."""
     command = [str(build / "bin" / f"fuzz_{target}"), *arguments(build, target, seconds)]
     ended = subprocess.run(command, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False,
-                           env={**os.environ, "ASAN_OPTIONS": "allocator_may_return_null=1"})
+                           env={**os.environ, **SANITIZERS})
     log = ended.stdout.decode("utf-8", "replace")
     (build / f"{target}.log").write_text(log, encoding="utf-8")
     executions = last_number(r"stat::number_of_executed_units:\s+(\d+)", log)
