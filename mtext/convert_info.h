@@ -18,7 +18,7 @@ struct column_settings {
 
 /// What layout takes from the entity, beside the text itself.
 struct convert_info {
-  column_settings columns;
+  column_settings columns;               ///< where lines wrap, and where a column ends
   double height = 2.5;                   ///< text height, the scale of all relative lengths
   std::uint32_t alignment = 1;           ///< for paragraphs without one; numbers as in `format::paragraph`
   std::uint32_t vertical = 0;            ///< attachment: 0 top, 1 middle, 2 bottom

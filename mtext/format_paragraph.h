@@ -41,7 +41,7 @@ struct paragraph {
 
 /// A subset of the fields of `paragraph`. A fresh one holds nothing.
 struct paragraph_partial {
-  std::optional<double> indent = {};
+  std::optional<double> indent = {};  ///< this and the others: as in `paragraph`
   std::optional<double> left = {};
   std::optional<double> right = {};
   std::optional<double> before = {};

@@ -16,7 +16,7 @@ namespace mtext::marks {
 
 /// A range of parts that others take the place of.
 struct replaced_range {
-  std::size_t first;
+  std::size_t first;      ///< position of the first part
   std::size_t count;      ///< parts before
   std::size_t new_count;  ///< parts afterwards
 };

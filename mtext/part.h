@@ -23,7 +23,7 @@ enum part_type : std::uint32_t {
 /// One element of a logical text. It carries its whole character format: there is no tree of formats.
 /// Callers ask `type()` and cast statically. Constructors take the format, then the fields in their order.
 struct SCRIBE_EXPORT part {
-  mtext::format::string format;
+  mtext::format::string format;  ///< of all of its characters
 
   virtual ~part() = default;
   /// A number of `part_type`.

@@ -13,7 +13,7 @@ using OdPseudoConstructor = OdSmartPtr<OdRxObject> (*)();
 /// away.
 class SCRIBE_EXPORT OdRxClass {
  public:
-  struct Description {
+  struct Description {                  ///< what a class is registered with
     OdString name{};                    ///< class name, unique in the program
     OdString dxfName{};                 ///< name in drawing files, empty where the class is not written
     OdString appName{};                 ///< the application text of the class record

@@ -53,8 +53,8 @@ class SCRIBE_EXPORT OdString {
 };
 
 template <>
-struct std::hash<OdString> {  ///< equal texts have equal hashes
-  std::size_t operator()(const OdString& text) const noexcept {
+struct std::hash<OdString> {                                     ///< equal texts have equal hashes
+  std::size_t operator()(const OdString& text) const noexcept {  ///< of the units
     return std::hash<std::u16string>{}(text.str());
   }
 };

@@ -3,6 +3,7 @@
 
 import unittest
 
+import documented
 import exports
 import installed_headers
 
@@ -42,6 +43,21 @@ class Exports(unittest.TestCase):
         self.assertEqual("encode", exports.short_name("mtext::encode[abi:cxx11](int)"))
         self.assertEqual("operator==", exports.short_name("mtext::format::operator==(int, int)"))
         self.assertIsNone(exports.short_name("vtable for mtext::part"))
+
+
+class Documented(unittest.TestCase):
+    def test_a_comment_above_or_behind_tells(self):
+        self.assertEqual([], documented.undocumented("/// Reads.\nbool parse(int a);\nint count;  ///< of parts\n"))
+
+    def test_a_comment_tells_of_what_stands_right_below_too(self):
+        self.assertEqual([], documented.undocumented("/// Reads.\nbool parse(int a);\nbool parse(long a);\n"))
+
+    def test_a_function_that_nothing_is_said_about_is_found(self):
+        self.assertEqual([4], documented.undocumented("/// Reads.\nbool parse(int a);\n\nSCRIBE_EXPORT bool write(int a);\n"))
+
+    def test_a_member_that_nothing_is_said_about_is_found(self):
+        text = "/// A part.\nstruct part {\n  int count;\n  part(int a) {}\n  int type() const override;\n private:\n  int x;\n};\n"
+        self.assertEqual([3], documented.undocumented(text))
 
 
 if __name__ == "__main__":
