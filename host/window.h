@@ -1,9 +1,7 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "host/input.h"
+#include "host/menu.h"
 
 /// Shapes of the mouse cursor, by their system number.
 enum HostCursor : int {
@@ -13,14 +11,6 @@ enum HostCursor : int {
   IDC_SIZENESW = 32643,
   IDC_SIZEWE = 32644,
   IDC_SIZENS = 32645,
-};
-
-/// One row of a popup menu.
-struct HostMenuItem {
-  int command = 0;  ///< what the menu returns; 0 for a separator
-  std::u16string text;
-  bool enabled = true;
-  bool checked = false;
 };
 
 /// The drawing view's window.
@@ -33,7 +23,7 @@ class HostWindow {
   virtual void releaseMouse() = 0;
   virtual void takeFocus() = 0;
   /// Shows a menu at a pixel of the view and waits; the chosen command, 0 for none.
-  virtual int popupMenu(const std::vector<HostMenuItem>& items, HostPixel at) = 0;
+  virtual int popupMenu(const HostMenu& menu, HostPixel at) = 0;
   /// Gives a message to the window behind those that wait.
   virtual void post(unsigned message) = 0;
 };

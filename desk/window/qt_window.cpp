@@ -25,16 +25,28 @@ Qt::CursorShape shapeOf(HostCursor cursor) {
   return Qt::ArrowCursor;
 }
 
+/// Behind a tab stands what the toolkit shows at the right edge.
+QString labelOf(const HostMenuItem& item) {
+  return item.hint.empty() ? toQt(item.text) : toQt(item.text) + u'\t' + toQt(item.hint);
+}
+
+void addRows(QMenu& menu, const HostMenu& rows);
+
 void addRow(QMenu& menu, const HostMenuItem& item) {
-  if (item.command == 0) {
+  if (item.isSeparator()) {
     menu.addSeparator();
     return;
   }
-  QAction* row = menu.addAction(toQt(item.text));
+  if (!item.rows.empty()) return addRows(*menu.addMenu(toQt(item.text)), item.rows);
+  QAction* row = menu.addAction(labelOf(item));
   row->setData(item.command);
   row->setEnabled(item.enabled);
   row->setCheckable(item.checked);
   row->setChecked(item.checked);
+}
+
+void addRows(QMenu& menu, const HostMenu& rows) {
+  for (const HostMenuItem& row : rows) addRow(menu, row);
 }
 
 }  // namespace
@@ -43,9 +55,9 @@ void QtWindow::setCursor(HostCursor shape) { m_view.setCursor(shapeOf(shape)); }
 
 void QtWindow::takeFocus() { m_view.setFocus(); }
 
-int QtWindow::popupMenu(const std::vector<HostMenuItem>& items, HostPixel at) {
+int QtWindow::popupMenu(const HostMenu& rows, HostPixel at) {
   QMenu menu(&m_view);
-  for (const HostMenuItem& item : items) addRow(menu, item);
+  addRows(menu, rows);
   const QAction* chosen = menu.exec(m_view.mapToGlobal(QPoint(at.x, at.y)));
   return chosen ? chosen->data().toInt() : 0;
 }

@@ -19,7 +19,7 @@ class QtWindow : public HostWindow {
   void captureMouse() override {}
   void releaseMouse() override {}
   void takeFocus() override;
-  int popupMenu(const std::vector<HostMenuItem>& items, HostPixel at) override;
+  int popupMenu(const HostMenu& rows, HostPixel at) override;
   void post(unsigned message) override;
 
  private:

@@ -1,6 +1,9 @@
 #pragma once
 
 #include <deque>
+#include <string>
+#include <string_view>
+#include <vector>
 
 #include "host/window.h"
 
@@ -11,22 +14,31 @@ class WindowlessWindow : public HostWindow {
   void captureMouse() override { m_captured = true; }
   void releaseMouse() override { m_captured = false; }
   void takeFocus() override {}
-  int popupMenu(const std::vector<HostMenuItem>& items, HostPixel at) override;
+  int popupMenu(const HostMenu& menu, HostPixel at) override;
   void post(unsigned message) override { m_posted.push_back(message); }
 
-  /// The next menu returns this command.
-  void choose(int command) { m_choices.push_back(command); }
+  /// Chooses this command in the next menu.
+  void choose(int command);
+  /// Chooses the row with this text, without case, or with this number.
+  void choose(std::u16string_view entry) { m_choices.emplace_back(entry); }
+  std::size_t choicesLeft() const { return m_choices.size(); }
+  /// Choices for which the menu had no row that can be chosen.
+  const std::vector<std::u16string>& refused() const { return m_refused; }
   HostCursor cursor() const { return m_cursor; }
   bool isCaptured() const { return m_captured; }
   /// The rows of the menu shown last.
-  const std::vector<HostMenuItem>& lastMenu() const { return m_last_menu; }
+  const HostMenu& lastMenu() const { return m_last_menu; }
+  /// Where it was shown.
+  HostPixel lastMenuPlace() const { return m_last_place; }
   /// Messages that were posted, in their order.
   const std::vector<unsigned>& posted() const { return m_posted; }
 
  private:
   HostCursor m_cursor = IDC_ARROW;
   bool m_captured = false;
-  std::deque<int> m_choices;
-  std::vector<HostMenuItem> m_last_menu;
+  std::deque<std::u16string> m_choices;
+  std::vector<std::u16string> m_refused;
+  HostMenu m_last_menu;
+  HostPixel m_last_place;
   std::vector<unsigned> m_posted;
 };
