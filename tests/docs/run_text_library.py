@@ -1,14 +1,16 @@
 #!/usr/bin/env python3
 """run_text_library.py BUILD COMPILER [FLAG...]: does what docs/text-library.md tells, and compares what the programs print.
 
-The commands of the guide run as they stand there, in a folder of their own, whose home is that folder too. Only those that build the
-library do not run: BUILD has it already, and stands where they would have put it.
+The commands of the guide run as they stand there, in a folder of their own, whose home is that folder too. Only the library is not built
+anew: its preset is configured, which has to find Boost and look for nothing else, and BUILD stands where it would have built.
 """
 
 import json
 import os
 import pathlib
+import re
 import shlex
+import shutil
 import subprocess
 import sys
 import tempfile
@@ -18,31 +20,39 @@ import guide
 ROOT = pathlib.Path(__file__).resolve().parents[2]
 
 
-def built_already(command, build):
-    """Whether a command builds the library. One that could not do so is an error."""
-    words = shlex.split(command)
-    if "--preset" not in words:
-        return False
-    presets = json.loads((ROOT / "CMakePresets.json").read_text(encoding="utf-8"))["configurePresets"]
-    if words[words.index("--preset") + 1] not in [preset["name"] for preset in presets]:
-        sys.exit(f"there is no such preset: {command}")
-    targets = words[words.index("--target") + 1:] if "--target" in words else []
-    known = (build / "build.ninja").read_text(encoding="utf-8")
-    if any(f"build {target}: phony" not in known for target in targets):
-        sys.exit(f"there is no such target: {command}")
-    return True
+def configure_errors(command, folder):
+    """What is wrong with a command that configures the library, as sentences."""
+    done = subprocess.run([*shlex.split(command), "-B", folder], cwd=ROOT, stdout=subprocess.PIPE, stderr=subprocess.STDOUT, text=True)
+    if done.returncode:
+        return [f"{command} ended with {done.returncode}: {done.stdout}"]
+    found = re.findall(r"^(\w+)_DIR:PATH=/", (folder / "CMakeCache.txt").read_text(encoding="utf-8"), re.MULTILINE)
+    return [f"{command} looks for {package}" for package in found if not package.lower().startswith("boost")]
 
 
-def script(document, build):
-    """All commands of the guide, as one shell script."""
-    commands = [line for block in guide.blocks(document) if block.language == "sh" for line in block.text.splitlines()]
-    return "\n".join(["set -e", *(command for command in commands if not built_already(command, build))])
+def build_errors(command):
+    """What is wrong with a command that builds the library."""
+    presets = json.loads((ROOT / "CMakePresets.json").read_text(encoding="utf-8"))["buildPresets"]
+    named = shlex.split(command)[-1] in [preset["name"] for preset in presets]
+    return [] if named else [f"there is no such preset: {command}"]
+
+
+def preset_errors(commands, folder):
+    wrong = []
+    for command in commands:
+        wrong += build_errors(command) if "--build" in command else configure_errors(command, folder)
+    return wrong
+
+
+def commands_of(document):
+    """The commands of the guide: those that build the library, and all others."""
+    lines = [line for block in guide.blocks(document) if block.language == "sh" for line in block.text.splitlines()]
+    return [line for line in lines if "--preset" in line], [line for line in lines if "--preset" not in line]
 
 
 def prepare(folder, build, compiler):
     """Makes `folder` look as the guide takes it to look, and gives the environment to run in."""
     (folder / "build").mkdir()
-    (folder / "build/release").symlink_to(build)
+    (folder / "build/text-library").symlink_to(build)
     (folder / "examples").symlink_to(ROOT / "examples")
     (folder / "bin").mkdir()
     wrapper = folder / "bin/c++"
@@ -60,14 +70,15 @@ def run(command, folder, environment):
 
 
 def main():
-    build, compiler = pathlib.Path(sys.argv[1]).resolve(), sys.argv[2:]
+    build, compiler = pathlib.Path(sys.argv[1]).resolve(), [shutil.which(sys.argv[2]), *sys.argv[3:]]
     document = (ROOT / "docs/text-library.md").read_text(encoding="utf-8")
     printed = {block.name: block.text for block in guide.blocks(document) if block.language == "text"}
-    wrong = []
+    presets, others = commands_of(document)
     with tempfile.TemporaryDirectory(dir=build) as name:
         folder = pathlib.Path(name)
         environment = prepare(folder, build, compiler)
-        transcript = run(["sh", "-c", script(document, build)], folder, environment)
+        wrong = preset_errors(presets, folder / "configured")
+        transcript = run(["sh", "-c", "set -e\n" + "\n".join(others)], folder, environment)
         if transcript.count(printed["first_steps"]) != 2:
             wrong.append("first_steps does not print what the guide says, built by cmake and by pkg-config alike")
         programs = {**printed, "first_steps_static": printed["first_steps"]}
