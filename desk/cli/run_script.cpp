@@ -19,7 +19,7 @@ Script scriptOf(const std::filesystem::path& file) {
 
 void print(std::u16string_view line) { std::cout << odToUtf8(line) << '\n'; }
 
-/// Tells what the script left open; whether there was anything.
+/// Tells what the script left open or could not choose; whether there was anything.
 bool tellUnanswered(ScriptDesk& desk, const std::string& script) {
   if (desk.document().prompt().unanswered() > 0)
     std::cerr << script << ": the script ended while \"" << odToUtf8(desk.source().promptAtEnd())
@@ -27,7 +27,9 @@ bool tellUnanswered(ScriptDesk& desk, const std::string& script) {
   if (desk.questions().unanswered() > 0)
     std::cerr << script << ": the question \"" << odToUtf8(desk.questions().shown().back())
               << "\" was not answered.\n";
-  return desk.failures() > 0 || desk.questions().unanswered() > 0;
+  for (const std::u16string& choice : desk.refusedChoices())
+    std::cerr << script << ": the menu has no entry \"" << odToUtf8(choice) << "\" that can be chosen.\n";
+  return desk.failures() > 0 || desk.questions().unanswered() > 0 || !desk.refusedChoices().empty();
 }
 
 }  // namespace

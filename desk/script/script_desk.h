@@ -7,6 +7,7 @@
 #include "desk/script/script_command_line.h"
 #include "desk/script/script_events.h"
 #include "desk/script/script_source.h"
+#include "desk/script/script_window.h"
 #include "host/clipboard.h"
 #include "host/help.h"
 #include "host/key_state.h"
@@ -14,7 +15,6 @@
 #include "host/settings.h"
 #include "host/windowless/clock.h"
 #include "host/windowless/view.h"
-#include "host/windowless/window.h"
 
 /// The desk without a window: a script works on it. Its clock stands still but for `@wait`; its view is 1280
 /// by 800 pixels and shows the whole drawing.
@@ -29,6 +29,8 @@ class ScriptDesk : public Desk {
   std::optional<std::filesystem::path> askFileToSave(const std::filesystem::path& proposed) override;
 
   const ScriptEvents& questions() const { return m_events; }
+  /// What the script chose from menus that had no such row, or could not give it.
+  const std::vector<std::u16string>& refusedChoices() const { return m_window.refused(); }
   const ScriptSource& source() const { return m_source; }
 
  protected:
@@ -46,7 +48,7 @@ class ScriptDesk : public Desk {
   HostMemoryClipboard m_clipboard;
   HostHeldKeys m_keys;
   WindowlessClock m_clock;
-  WindowlessWindow m_window;
+  ScriptWindow m_window;
   std::unique_ptr<WindowlessView> m_view;
   std::unique_ptr<DeskDocument> m_document;
   ScriptSource m_source;

@@ -8,6 +8,7 @@
 #include "host/key_state.h"
 #include "host/view.h"
 #include "host/windowless/clock.h"
+#include "host/windowless/window.h"
 #include "od/gi/OdGsView.h"
 
 HostInput ScriptSource::next() {
@@ -35,6 +36,7 @@ void ScriptSource::perform(const ScriptStep& step) {
   if (const auto* wait = std::get_if<WaitStep>(&step.what)) m_around.clock.advance(wait->milliseconds);
   if (const auto* answer = std::get_if<AnswerStep>(&step.what))
     m_around.events.answer(boxAnswer(answer->answer));
+  if (const auto* menu = std::get_if<MenuStep>(&step.what)) m_around.window.choose(menu->entry);
 }
 
 /// Where a command name is awaited a blank ends it, as it does on the keyboard: the rest answers its prompts.
@@ -59,4 +61,12 @@ std::optional<ScriptAnswer> ScriptSource::takeAnswer() {
   if (!answer) return std::nullopt;
   ++m_at;
   return answer->answer;
+}
+
+std::optional<std::u16string> ScriptSource::takeChoice() {
+  if (m_at == m_script.size()) return std::nullopt;
+  const auto* menu = std::get_if<MenuStep>(&m_script[m_at].what);
+  if (!menu) return std::nullopt;
+  ++m_at;
+  return menu->entry;
 }

@@ -12,6 +12,7 @@ class HostHeldKeys;
 class HostView;
 class ScriptCommandLine;
 class WindowlessClock;
+class WindowlessWindow;
 
 /// What the steps of a script work on. All outlive the source.
 struct ScriptSurroundings {
@@ -20,6 +21,7 @@ struct ScriptSurroundings {
   WindowlessClock& clock;
   HostAnsweredEvents& events;
   HostView& view;
+  WindowlessWindow& window;
 };
 
 /// Input from a script: a prompt that waits gets what the next step gives.
@@ -32,6 +34,8 @@ class ScriptSource : public HostInputSource {
   /// The answer that stands in the next step, if it is one; the step is then done. A question may be answered
   /// on the line behind the one that raises it.
   std::optional<ScriptAnswer> takeAnswer();
+  /// The choice that stands in the next step, if it is one; the step is then done.
+  std::optional<std::u16string> takeChoice();
   /// What was asked when the script had come to its end; empty before.
   const std::u16string& promptAtEnd() const { return m_prompt_at_end; }
 

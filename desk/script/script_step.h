@@ -11,10 +11,10 @@ struct TypeLine {
   std::u16string text;
 };
 
-/// What a mouse step does with the left button.
-enum class MouseAction { click, twice, press, drag, release };
+/// What a mouse step does: with the left button, or a click with the right one.
+enum class MouseAction { click, twice, press, drag, release, right };
 
-/// `@click`, `@double`, `@press`, `@drag` or `@release` at a point of the drawing, in drawing units.
+/// `@click`, `@double`, `@press`, `@drag`, `@release` or `@right` at a point of the drawing, in drawing units.
 struct MouseStep {
   MouseAction action = MouseAction::click;
   double x = 0;
@@ -45,10 +45,15 @@ struct AnswerStep {
   ScriptAnswer answer = ScriptAnswer::yes;
 };
 
+/// `@menu`: what is chosen from the next menu, by its text or its number.
+struct MenuStep {
+  std::u16string entry;
+};
+
 /// One step of a script with the number of its line, counted from 1.
 struct ScriptStep {
   int line = 0;
-  std::variant<TypeLine, MouseStep, TypeCharacters, PressKey, WaitStep, AnswerStep> what;
+  std::variant<TypeLine, MouseStep, TypeCharacters, PressKey, WaitStep, AnswerStep, MenuStep> what;
 };
 
 using Script = std::vector<ScriptStep>;

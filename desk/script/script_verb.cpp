@@ -65,6 +65,12 @@ Step readAnswer(std::u16string_view argument) {
   refuse("\"" + odToUtf8(word) + "\" is not an answer; yes, no and cancel are.");
 }
 
+Step readMenu(std::u16string_view argument) {
+  const std::u16string_view entry = trimmed(argument);
+  if (entry.empty()) refuse("\"@menu\" names no entry of a menu.");
+  return MenuStep{std::u16string(entry)};
+}
+
 Step readType(std::u16string_view argument) { return TypeCharacters{std::u16string(argument)}; }
 
 struct Verb {
@@ -72,16 +78,18 @@ struct Verb {
   Step (*read)(std::u16string_view argument);
 };
 
-constexpr std::array<Verb, 9> kVerbs{{
+constexpr std::array<Verb, 11> kVerbs{{
     {u"click", [](std::u16string_view point) -> Step { return readMouse(MouseAction::click, point); }},
     {u"double", [](std::u16string_view point) -> Step { return readMouse(MouseAction::twice, point); }},
     {u"press", [](std::u16string_view point) -> Step { return readMouse(MouseAction::press, point); }},
     {u"drag", [](std::u16string_view point) -> Step { return readMouse(MouseAction::drag, point); }},
     {u"release", [](std::u16string_view point) -> Step { return readMouse(MouseAction::release, point); }},
+    {u"right", [](std::u16string_view point) -> Step { return readMouse(MouseAction::right, point); }},
     {u"type", readType},
     {u"key", readKey},
     {u"wait", readWait},
     {u"answer", readAnswer},
+    {u"menu", readMenu},
 }};
 
 }  // namespace

@@ -62,6 +62,8 @@ std::vector<unsigned> numbersOf(MouseAction action) {
       return {WM_MOUSEMOVE};
     case MouseAction::release:
       return {WM_LBUTTONUP};
+    case MouseAction::right:
+      return {WM_SETCURSOR, WM_MOUSEMOVE, WM_RBUTTONDOWN, WM_RBUTTONUP};
   }
   return {};
 }

@@ -82,11 +82,20 @@ TEST(ScriptReader, waits_and_answers_are_read) {
   EXPECT_EQ(std::get<AnswerStep>(script[3].what).answer, ScriptAnswer::cancel);
 }
 
+TEST(ScriptReader, the_right_button_and_the_choice_from_its_menu_are_read) {
+  const Script script = readScript("@right Ctrl+1,2\n@menu  Select all \n@menu 1007\n", "s");
+  ASSERT_EQ(script.size(), 3u);
+  EXPECT_EQ(std::get<MouseStep>(script[0].what).action, MouseAction::right);
+  EXPECT_EQ(std::get<MenuStep>(script[1].what).entry, u"Select all");
+  EXPECT_EQ(std::get<MenuStep>(script[2].what).entry, u"1007");
+}
+
 TEST(ScriptReader, a_bad_line_is_refused_with_file_line_and_reason) {
   EXPECT_EQ(refusal("Open\n@click here\n"), "story.scr, line 2: \"here\" is not a point such as 10,20.");
   EXPECT_EQ(refusal("@jump 1,2"), "story.scr, line 1: \"@jump\" is no step of a script.");
   EXPECT_EQ(refusal("@key Hyper"), "story.scr, line 1: \"Hyper\" names no key.");
   EXPECT_EQ(refusal("@wait -1"), "story.scr, line 1: \"-1\" is not a time in whole milliseconds.");
+  EXPECT_EQ(refusal("@menu "), "story.scr, line 1: \"@menu\" names no entry of a menu.");
   EXPECT_EQ(refusal("@answer perhaps"),
             "story.scr, line 1: \"perhaps\" is not an answer; yes, no and cancel are.");
 }

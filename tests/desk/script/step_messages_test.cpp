@@ -56,6 +56,10 @@ TEST(StepMessages, a_click_goes_there_presses_and_releases) {
   EXPECT_EQ(messagesOfLine("@click 1,2"), "32:0 512:0 513:0 514:0");
 }
 
+TEST(StepMessages, a_right_click_goes_there_presses_and_releases_the_other_button) {
+  EXPECT_EQ(messagesOfLine("@right 1,2"), "32:0 512:0 516:0 517:0");
+}
+
 TEST(StepMessages, a_double_click_is_two_presses_the_second_of_its_own_kind) {
   EXPECT_EQ(messagesOfLine("@double 1,2"), "32:0 512:0 513:0 514:0 515:0 514:0");
 }
