@@ -49,6 +49,21 @@ bool is_well_formed(const marks::letters_dictionary& letters) {
   return true;
 }
 
+/// No member of it equals another one.
+marks::letters_dictionary told_apart(marks::letters_dictionary letters) {
+  for (marks::alphabet& each : letters) {
+    each.name += u'n';
+    each.lower += u'l';
+    each.upper += u'u';
+  }
+  return letters;
+}
+
+void require_read_as_written(const marks::letters_dictionary& letters) {
+  require(marks::letters_dictionary::from_json(written(letters)) == letters,
+          "letters are read as they are written");
+}
+
 }  // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -56,8 +71,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   try {
     const marks::letters_dictionary letters = marks::letters_dictionary::from_json(text);
     require(is_well_formed(letters), "what was read is Unicode text");
-    require(marks::letters_dictionary::from_json(written(letters)) == letters,
-            "letters are read as they are written");
+    require_read_as_written(letters);
+    require_read_as_written(told_apart(letters));
   } catch (const boost::property_tree::ptree_error& refused) {
     require(*refused.what() != '\0', "a refusal says why");
   }
