@@ -1,44 +1,18 @@
 #include "desk/cli/arguments.h"
 
 #include <CLI/CLI.hpp>
-#include <charconv>
 #include <cmath>
 #include <sstream>
 
 #include "desk/cli/exit_code.h"
 #include "desk/cli/mtext_arguments.h"
+#include "desk/cli/number_list.h"
+#include "desk/cli/picture_size.h"
 
 namespace {
 
-constexpr int kLargestSide = 20000;
-
-/// The numbers of a list such as "1,2,3,4" or "640x480"; fewer than wanted when one cannot be read.
-template <typename Number>
-std::vector<Number> numbers(const std::string& text, char separator) {
-  std::vector<Number> result;
-  const char* at = text.data();
-  const char* const end = at + text.size();
-  for (;;) {
-    Number value{};
-    const auto [stop, error] = std::from_chars(at, end, value);
-    if (error != std::errc()) return {};
-    result.push_back(value);
-    if (stop == end) return result;
-    if (*stop != separator) return {};
-    at = stop + 1;
-  }
-}
-
-void readSize(const std::string& text, RenderOptions& options) {
-  const std::vector<int> sides = numbers<int>(text, 'x');
-  const auto usable = [](int side) { return side >= 1 && side <= kLargestSide; };
-  if (sides.size() != 2 || !usable(sides[0]) || !usable(sides[1]))
-    throw CLI::ValidationError("--size", "\"" + text + "\" is no size such as 1600x1000.");
-  options.size = {sides[0], sides[1]};
-}
-
 void readWindow(const std::string& text, RenderOptions& options) {
-  const std::vector<double> ends = numbers<double>(text, ',');
+  const std::vector<double> ends = numberList<double>(text, ',');
   const auto spans = [&](std::size_t from, std::size_t to) {
     return ends[from] != ends[to] && std::isfinite(ends[to] - ends[from]);
   };
@@ -89,9 +63,7 @@ class Parser {
     m_render_app->add_option("-o,--output", m_render.output, "The picture: .png, .svg or .pdf")
         ->required()
         ->check(CLI::Validator(needsPictureName, "FILE"));
-    m_render_app->add_option_function<std::string>(
-        "--size", [this](const std::string& text) { readSize(text, m_render); },
-        "WIDTHxHEIGHT in pixels, 1600x1000 if not told");
+    addPictureSize(*m_render_app, m_render.size);
     m_render_app->add_option_function<std::string>(
         "--window", [this](const std::string& text) { readWindow(text, m_render); },
         "X0,Y0,X1,Y1: the part to be shown, the whole drawing if not told");

@@ -51,34 +51,50 @@ std::string layoutJson(const TextFrame& frame, const std::u16string& text) {
       .dump();
 }
 
-void draw(const MTextOptions& options, const std::u16string& text) {
-  TextFrame frame(options);
-  frame.draw(text, inputName(options.file), options.picture);
+void draw(const MTextOptions& options, const FrameStyle& style, const std::u16string& text) {
+  TextFrame frame(style);
+  frame.draw(text, inputName(options.file), options.picture, options.size);
   tellLackingFonts(frame);
 }
 
-std::string answer(const MTextOptions& options, const std::u16string& text) {
+void print(const MTextOptions& options, const FrameStyle& style, const std::u16string& text) {
   switch (options.action) {
     case MTextOptions::plain:
-      return plain(text);
+      std::cout << plain(text);
+      break;
     case MTextOptions::parse:
-      return text_json::write_multitext(parsed(text, baseFormat(options))).dump();
+      text_json::print_multitext(std::cout, parsed(text, style.format));
+      break;
     case MTextOptions::format:
-      return rewritten(text, baseFormat(options));
-    default:
-      return layoutJson(TextFrame(options), text);
+      std::cout << rewritten(text, style.format);
+      break;
+    case MTextOptions::layout:
+      std::cout << layoutJson(TextFrame(style), text);
+      break;
   }
+  std::cout << '\n';
 }
 
 }  // namespace
 
+FrameStyle frameStyle(const MTextOptions& options) {
+  if (options.style == "-" && options.file == "-")
+    throw FileError(inputName("-"), "it cannot be both the style and the text.");
+  FrameStyle style = options.style.empty() ? FrameStyle() : readFrameStyle(options.style);
+  if (options.height) style.setHeight(*options.height);
+  if (options.font) style.setFont(odToUtf16(*options.font));
+  if (options.width) style.frame.columns.width = *options.width;
+  return style;
+}
+
 int runMText(const MTextOptions& options) {
+  const FrameStyle style = frameStyle(options);
   const std::u16string text = textOf(options);
   if (!options.picture.empty()) {
-    draw(options, text);
+    draw(options, style, text);
     return kExitDone;
   }
-  std::cout << answer(options, text) << '\n';
+  print(options, style, text);
   if (!std::cout.flush()) throw FileError("standard output", "it cannot be written.");
   return kExitDone;
 }

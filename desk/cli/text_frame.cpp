@@ -5,54 +5,54 @@
 #include "desk/document/font_report.h"
 #include "mtext/decode.h"
 #include "mtext/entity/entity_format.h"
+#include "mtext/entity/mtext_layout.h"
 #include "mtext/entity/mtext_size_finder.h"
-#include "od/base/unicode.h"
 #include "od/db/OdDbBlockTableRecord.h"
-#include "od/db/OdDbTextStyleTableRecord.h"
+#include "od/db/OdDbMText.h"
 
 namespace {
 
-/// Gives the font to the style that the text is drawn with.
-void setFont(OdDbDatabase& drawing, const mtext::format::string& base) {
-  if (base.font.empty()) return;
-  const auto style =
-      odCastOrThrow<OdDbTextStyleTableRecord>(drawing.getTEXTSTYLE().openObject(OdDb::kForWrite));
-  if (base.is_shx) {
-    style->setFont(u"", false, false, 0, 0);
-    style->setFileName(base.font);
-  } else {
-    style->setFont(base.font, false, false, 0, 0);
-  }
+/// Draws an entity as a text that was laid out before, whatever the entity itself says. A text of some length
+/// is thus laid out once for all who measure and draw it.
+class StandingLayout : public mtext::mtext_layout {
+ public:
+  explicit StandingLayout(mtext::geom_multitext text)
+      : m_text(std::make_shared<mtext::geom_multitext>(std::move(text))) {}
+
+ protected:
+  std::shared_ptr<const mtext::geom_multitext> laid_out(const OdDbMText&) const override { return m_text; }
+
+ private:
+  std::shared_ptr<const mtext::geom_multitext> m_text;
+};
+
+void takeFont(mtext::format::string& target, const mtext::format::string& source) {
+  target.font = source.font;
+  target.is_shx = source.is_shx;
+  target.charset = source.charset;
+  target.pitch = source.pitch;
 }
 
 }  // namespace
 
-mtext::format::string baseFormat(const MTextOptions& options) {
-  mtext::format::string base{.height = options.height, .height_kind = 0, .font = odToUtf16(options.font)};
-  base.is_shx = odLowerAscii(base.font).ends_with(u".shx");
-  return base;
-}
-
-TextFrame::TextFrame(const MTextOptions& options) : m_drawing(newDrawing()), m_text(odNew<OdDbMText>()) {
-  setFont(*m_drawing, baseFormat(options));
-  m_text->setDatabaseDefaults(m_drawing.get());
-  m_text->setTextStyle(m_drawing->getTEXTSTYLE());
-  m_text->setTextHeight(options.height);
-  m_text->setWidth(options.width);
-  odCastOrThrow<OdDbBlockTableRecord>(m_drawing->getModelSpaceId().openObject(OdDb::kForWrite))
-      ->appendOdDbEntity(m_text.get());
+TextFrame::TextFrame(FrameStyle style) : m_drawing(newDrawing()), m_style(std::move(style)) {
+  if (m_style.format.font.empty())
+    takeFont(m_style.format, mtext::style_format(m_drawing->getTEXTSTYLE(), m_drawing.get()));
 }
 
 mtext::geom_multitext TextFrame::layOut(const std::u16string& text) const {
   const mtext::mtext_size_finder finder{m_drawing};
-  return mtext::decode(text, mtext::drawn_mtext_format(m_text), mtext::drawn_convert_info(m_text), finder,
-                       {});
+  return mtext::decode(text, m_style.format, m_style.frame, finder, {});
 }
 
 void TextFrame::draw(const std::u16string& text, const std::string& name,
-                     const std::filesystem::path& picture) {
-  m_text->setContents(OdString(text));
-  renderDrawing(*m_drawing, name, {.drawing = {}, .output = picture});
+                     const std::filesystem::path& picture, QSize size) {
+  m_drawing->setTextLayout(std::make_shared<StandingLayout>(layOut(text)));
+  const OdDbMTextPtr entity = odNew<OdDbMText>();
+  entity->setDatabaseDefaults(m_drawing.get());
+  odCastOrThrow<OdDbBlockTableRecord>(m_drawing->getModelSpaceId().openObject(OdDb::kForWrite))
+      ->appendOdDbEntity(entity.get());
+  renderDrawing(*m_drawing, name, {.drawing = {}, .output = picture, .size = size});
 }
 
 std::vector<std::u16string> TextFrame::lackingFonts() const { return substitutedFonts(*m_drawing); }

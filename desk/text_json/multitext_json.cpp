@@ -1,6 +1,8 @@
 #include "desk/text_json/multitext_json.h"
 
+#include <ostream>
 #include <stdexcept>
+#include <string_view>
 #include <utility>
 
 #include "desk/text_json/format_json.h"
@@ -36,6 +38,52 @@ void write_members(json& value, const mtext::field& part) {
   value["value"] = part.value ? write_text(*part.value) : json();
 }
 
+/// A part without its format.
+json own_members(const mtext::part& part) {
+  json value = {{"type", part.type()}};
+  switch (part.type()) {
+    case mtext::part_string:
+      write_members(value, static_cast<const mtext::string&>(part));
+      break;
+    case mtext::part_spaces:
+      write_members(value, static_cast<const mtext::spaces&>(part));
+      break;
+    case mtext::part_stack:
+      write_members(value, static_cast<const mtext::stack&>(part));
+      break;
+    case mtext::part_new_paragraph:
+      write_members(value, static_cast<const mtext::new_paragraph&>(part));
+      break;
+    case mtext::part_field:
+      write_members(value, static_cast<const mtext::field&>(part));
+      break;
+    default:
+      break;
+  }
+  return value;
+}
+
+/// Equal in every digit, where formats that are nearly equal count as equal elsewhere.
+bool same(const mtext::format::string& a, const mtext::format::string& b) {
+  return a == b && a.height == b.height;
+}
+
+/// Keeps a format and its words.
+class format_words {
+ public:
+  const std::string& of(const mtext::format::string& format) {
+    if (m_words.empty() || !same(m_format, format)) {
+      m_format = format;
+      m_words = write_format(format).dump();
+    }
+    return m_words;
+  }
+
+ private:
+  mtext::format::string m_format;
+  std::string m_words;
+};
+
 }  // namespace
 
 std::unique_ptr<mtext::part> read_part(const json& value) {
@@ -64,26 +112,8 @@ std::unique_ptr<mtext::part> read_part(const json& value) {
 }
 
 json write_part(const mtext::part& part) {
-  json value = {{"type", part.type()}, {"format", write_format(part.format)}};
-  switch (part.type()) {
-    case mtext::part_string:
-      write_members(value, static_cast<const mtext::string&>(part));
-      break;
-    case mtext::part_spaces:
-      write_members(value, static_cast<const mtext::spaces&>(part));
-      break;
-    case mtext::part_stack:
-      write_members(value, static_cast<const mtext::stack&>(part));
-      break;
-    case mtext::part_new_paragraph:
-      write_members(value, static_cast<const mtext::new_paragraph&>(part));
-      break;
-    case mtext::part_field:
-      write_members(value, static_cast<const mtext::field&>(part));
-      break;
-    default:
-      break;
-  }
+  json value = own_members(part);
+  value["format"] = write_format(part.format);
   return value;
 }
 
@@ -98,6 +128,19 @@ json write_multitext(const mtext::multitext& text) {
   json parts = json::array();
   for (const auto& part : text.parts) parts.push_back(write_part(part));
   return {{"paragraph", write_paragraph(text.paragraph)}, {"parts", std::move(parts)}};
+}
+
+void print_multitext(std::ostream& out, const mtext::multitext& text) {
+  out << "{\"paragraph\":" << write_paragraph(text.paragraph) << ",\"parts\":[";
+  format_words formats;
+  const char* separator = "";
+  for (const auto& part : text.parts) {
+    const std::string members = own_members(part).dump();
+    out << separator << "{\"format\":" << formats.of(part.format) << ','
+        << std::string_view(members).substr(1);
+    separator = ",";
+  }
+  out << "]}";
 }
 
 mtext::fields_map read_fields(const json& value) {

@@ -18,14 +18,6 @@ namespace {
 
 OdDbMTextPtr pointer_to(const OdDbMText& text) { return OdDbMTextPtr(const_cast<OdDbMText*>(&text)); }
 
-geom_multitext laid_out(const OdDbMText& text) {
-  const auto entity = pointer_to(text);
-  const auto contents = contents_of(entity);
-  const mtext_size_finder finder{OdDbDatabasePtr(text.database())};
-  return decode(contents.text.str(), drawn_mtext_format(entity), drawn_convert_info(entity), finder,
-                contents.fields);
-}
-
 /// From the entity's location to the origin of the laid-out text.
 OdGeVector2d origin_offset(const geom_multitext& text) {
   const OdGeVector2d box = column_box(text);
@@ -70,9 +62,18 @@ double last_line_leading(const geom_multitext& text) {
   return line ? line->y - (column->y - column->height) : 0;
 }
 
+std::shared_ptr<const geom_multitext> mtext_layout::laid_out(const OdDbMText& text) const {
+  const auto entity = pointer_to(text);
+  const auto contents = contents_of(entity);
+  const mtext_size_finder finder{OdDbDatabasePtr(text.database())};
+  return std::make_shared<geom_multitext>(decode(contents.text.str(), drawn_mtext_format(entity),
+                                                 drawn_convert_info(entity), finder, contents.fields));
+}
+
 OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
   if (!text.database()) return {};
-  const geom_multitext laid = laid_out(text);
+  const auto kept = laid_out(text);
+  const geom_multitext& laid = *kept;
   if (laid.lines.empty()) return {};
   const geom_line& first = laid.lines.front();
   OdGePoint2d low{first.x, first.y}, high{first.x, first.y};
@@ -87,7 +88,8 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
 
 void mtext_layout::draw(const OdDbMText& text, OdGiWorldDraw& draw) {
   if (!text.database()) return;
-  const geom_multitext laid = laid_out(text);
+  const auto kept = laid_out(text);
+  const geom_multitext& laid = *kept;
   const OdGeVector2d offset = origin_offset(laid);
   OdGiGeometry& geometry = draw.geometry();
   geometry.pushModelTransform(OdGeMatrix3d::translation({offset.x, offset.y, 0}));

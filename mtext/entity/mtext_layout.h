@@ -1,5 +1,7 @@
 #pragma once
 
+#include <memory>
+
 #include "mtext/geom_multitext.h"
 #include "od/db/OdDbMTextLayout.h"
 
@@ -10,6 +12,10 @@ class mtext_layout : public OdDbMTextLayout {
  public:
   OdDbMTextMeasure measure(const OdDbMText& text) override;
   void draw(const OdDbMText& text, OdGiWorldDraw& draw) override;
+
+ protected:
+  /// The text of an entity of a database as it is measured and drawn.
+  virtual std::shared_ptr<const geom_multitext> laid_out(const OdDbMText& text) const;
 };
 
 /// Width and height of the box that a text's columns are set to: of all columns that its settings or its

@@ -123,6 +123,111 @@ TEST(MTextLayout, draws_a_picture_instead) {
   EXPECT_THAT(contentOf(scratch("text.svg")), HasSubstr("<svg"));
 }
 
+TEST(MTextLayout, a_picture_has_the_size_that_was_told) {
+  EXPECT_EQ(printed("layout --draw sized.png --size 320x200", "Table"), "");
+  EXPECT_EQ(QImage(QString::fromStdString(scratch("sized.png").string())).size(), QSize(320, 200));
+}
+
+TEST(MTextStyle, sets_what_the_options_set_and_they_go_before_it) {
+  writeFile(scratch("style.json"), R"({"height": 5, "width": 30, "font": "Liberation Mono"})");
+  const std::string text = "Table for eight, oak, oiled twice";
+  EXPECT_EQ(printed("layout --style style.json", text),
+            printed("layout --height 5 --width 30 --font 'Liberation Mono'", text));
+  EXPECT_EQ(printed("layout --style style.json --width 0 --height 2.5 --font 'Liberation Sans'", text),
+            printed("layout --font 'Liberation Sans'", text));
+}
+
+TEST(MTextStyle, is_the_format_of_text_without_codes) {
+  writeFile(scratch("style.json"),
+            R"({"font": "Arial", "pitch": 34, "charset": 2, "flags": 5, "oblique": 0.25,
+      "width_factor": 0.8, "tracking": 1.5, "align": 1, "color": {"index": 3}})");
+  const json format = json::parse(printed("parse --style style.json", "oak"))["parts"][0]["format"];
+  EXPECT_EQ(format,
+            json::parse(R"({"height": 2.5, "height_kind": 0, "font": "Arial", "pitch": 34, "charset": 2,
+      "is_shx": false, "flags": 5, "color": {"kind": 0, "index": 3}, "width_factor": 0.8, "oblique": 0.25,
+      "tracking": 1.5, "align": 1})"));
+  EXPECT_EQ(printed("format --style style.json", "{\\C3;oak} {\\C1;elm}"), "oak {\\C1;elm}\n");
+}
+
+TEST(MTextStyle, a_true_colour_is_told_by_its_bytes) {
+  writeFile(scratch("style.json"), R"({"color": {"red": 1, "green": 2, "blue": 3, "top": 0}})");
+  EXPECT_EQ(json::parse(printed("parse --style style.json", "oak"))["parts"][0]["format"]["color"],
+            json::parse(R"({"kind": 1, "top": 0, "red": 1, "green": 2, "blue": 3})"));
+}
+
+TEST(MTextStyle, fills_columns_and_spaces_and_aligns_lines) {
+  writeFile(scratch("style.json"), R"({"height": 10, "alignment": 3, "spacing": {"style": 2, "value": 2},
+      "columns": {"width": 100, "gutter": 20, "kind": 2, "heights": [40]}})");
+  const json laid = json::parse(printed("layout --style style.json", "one\\Ptwo\\Pthree"));
+  ASSERT_EQ(laid["columns"].size(), 3U) << "each line is 33 high, and a column holds no second one";
+  EXPECT_EQ(laid["columns"][2]["x"], 240.0);
+  EXPECT_EQ(laid["lines"][0]["y"], -20.0);
+  EXPECT_GT(laid["lines"][0]["x"], 50.0);
+}
+
+TEST(MTextStyle, is_drawn_too) {
+  writeFile(scratch("style.json"), R"({"height": 10, "color": {"index": 1}})");
+  EXPECT_EQ(printed("layout --style style.json --draw styled.png --size 200x100", "MMM"), "");
+  const QImage image(QString::fromStdString(scratch("styled.png").string()));
+  ASSERT_FALSE(image.isNull());
+  bool red = false;
+  for (int y = 0; y < image.height(); ++y)
+    for (int x = 0; x < image.width(); ++x) red |= image.pixelColor(x, y) == QColor(Qt::red);
+  EXPECT_TRUE(red);
+}
+
+TEST(MTextStyle, one_set_of_options_serves_every_action_of_a_pipe) {
+  writeFile(scratch("style.json"), R"({"width": 30})");
+  for (const std::string action : {"plain", "parse", "format", "layout"})
+    EXPECT_NE(printed(action + " --style style.json --height 5 --width 60 --font Arial", "oak"), "")
+        << action;
+}
+
+TEST(MTextStyle, that_is_wrong_ends_with_3_and_a_sentence_that_names_line_or_member) {
+  const std::vector<std::pair<std::string, std::string>> wrong = {
+      {"{\n  \"height\": 5,\n  \"width\" 3\n}", "style.json: line 3, column 11 is no JSON."},
+      {"", "style.json: line 1, column 1 is no JSON."},
+      {"[1]", "style.json: a style must be one JSON object."},
+      {R"({"colour": 1})", "style.json: \"colour\" is no member of a style."},
+      {R"({"height": 0})", "style.json: \"height\" must be a number from 1e-06 to 1e+09."},
+      {R"({"height": "tall"})", "style.json: \"height\" must be a number from 1e-06 to 1e+09."},
+      {R"({"flags": -1})", "style.json: \"flags\" must be a whole number from 0 to 15."},
+      {R"({"font": 3})", "style.json: \"font\" must be a text."},
+      {R"({"is_shx": 1})", "style.json: \"is_shx\" must be true or false."},
+      {R"({"font": "txt", "is_shx": true})",
+       "style.json: \"is_shx\" is true, so \"font\" must be a file that ends in .shx."},
+      {R"({"spacing": 2})", "style.json: \"spacing\" must be an object."},
+      {R"({"spacing": {"value": -1}})", "style.json: \"spacing.value\" must be a number from 0 to 1e+09."},
+      {R"({"columns": {"heights": []}})",
+       "style.json: \"columns.heights\" must be a list of 1 to 1000 numbers from 0 to 1e+09."}};
+  for (const auto& [content, sentence] : wrong) {
+    writeFile(scratch("style.json"), content);
+    const ProgramRun run = runProgram("mtext plain --style style.json", "oak");
+    EXPECT_EQ(run.exit_code, 3) << content;
+    EXPECT_EQ(run.err, sentence + "\n");
+    EXPECT_EQ(run.out, "");
+  }
+  EXPECT_EQ(runProgram("mtext plain --style -", "oak").exit_code, 3);
+  EXPECT_EQ(runProgram("mtext plain --style missing.json", "oak").err,
+            "missing.json: the style cannot be read.\n");
+}
+
+TEST(MTextStyle, nested_without_end_is_refused_and_not_followed) {
+  writeFile(scratch("style.json"), "{\"columns\": " + std::string(1000000, '['));
+  const ProgramRun run = runProgram("mtext layout --style style.json", "oak");
+  EXPECT_EQ(run.exit_code, 3);
+  EXPECT_THAT(run.err, HasSubstr("is no JSON."));
+}
+
+TEST(MText, a_reader_that_goes_away_ends_it_quietly) {
+  writeFile(scratch("long.txt"), std::string(4000000, 'x'));
+  for (const std::string action : {"plain", "parse", "format"}) {
+    runProgram("mtext " + action + " long.txt 2>told | head -c 5 >shown; true");
+    EXPECT_EQ(contentOf(scratch("shown")).size(), 5U) << action;
+    EXPECT_EQ(contentOf(scratch("told")), "") << action;
+  }
+}
+
 TEST(MText, a_megabyte_goes_through_whole) {
   std::string text, plain;
   for (int i = 0; i < 50000; ++i) {
@@ -135,9 +240,10 @@ TEST(MText, a_megabyte_goes_through_whole) {
 }
 
 TEST(MText, ends_with_2_when_it_is_called_wrongly) {
-  for (const std::string words : {"", "shout", "plain --width 3", "parse --width 3", "layout --width -1",
-                                  "layout --height 0", "layout --height nan", "layout --width wide",
-                                  "format --draw a.png", "layout --draw a.gif", "plain a b"}) {
+  for (const std::string words :
+       {"", "shout", "plain --draw a.png", "parse --size 10x10", "layout --width -1", "layout --height 0",
+        "layout --size 10x10", "layout --draw a.png --size 0x9", "layout --height nan", "layout --width wide",
+        "format --draw a.png", "layout --draw a.gif", "plain a b"}) {
     EXPECT_EQ(runProgram("mtext " + words).exit_code, 2) << words;
   }
 }
