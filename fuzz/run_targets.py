@@ -28,7 +28,7 @@ def arguments(build, target, seconds):
     findings.mkdir(parents=True, exist_ok=True)
     dictionary = [f"-dict={HERE / 'format_codes.dict'}"] if target in WITH_CODES else []
     return [str(grown), str(build / "corpus" / target), *dictionary, f"-max_total_time={seconds}",
-            f"-max_len={LONGEST_INPUT.get(target, 4096)}", "-rss_limit_mb=2048", "-timeout=25",
+            f"-max_len={LONGEST_INPUT.get(target, 4096)}", "-len_control=10", "-rss_limit_mb=2048", "-timeout=25",
             f"-artifact_prefix={findings}/", "-print_final_stats=1"]
 
 
