@@ -136,6 +136,15 @@ TEST(GeomMultitext, keep_cuts_both_ends_and_drops_the_solids_that_lay_there) {
   EXPECT_EQ(refusal([&] { text.keep(0, 3); }), invalid_positions);
 }
 
+TEST(GeomMultitext, keep_drops_every_empty_solid_wherever_it_lies) {
+  geom_multitext text = decoded(u"abcdef");
+  text.marks.push_back(new marks::field(3, 3, u"within"));
+  text.marks.push_back(new marks::mark(3, 3));
+  text.keep(2, 2);
+  ASSERT_EQ(text.marks.size(), 1u);
+  EXPECT_FALSE(dynamic_cast<marks::solid*>(&text.marks[0]));
+}
+
 TEST(GeomMultitext, slice_is_a_copy_on_which_keep_ran) {
   const geom_multitext text = decoded(u"ab cd", frame(20));
   const geom_multitext sliced = text.slice(1, 3);

@@ -57,6 +57,12 @@ TEST(LayoutLine, a_paragraph_end_behind_blanks_that_overflow_opens_its_paragraph
   EXPECT_EQ(text.parts[7].x, 10);
 }
 
+TEST(LayoutLine, a_paragraph_end_behind_blanks_that_overflow_sorts_the_stops_of_its_paragraph) {
+  const geom_multitext text = decoded(u"aaaa  \\P\\pxt9,2;\tb", frame(20));
+  EXPECT_EQ(lines_of(text), (texts{"aaaa  |", ">b"}));
+  EXPECT_EQ(text.parts[8].x, 20);
+}
+
 TEST(LayoutLine, a_stack_breaks_like_a_word) {
   EXPECT_EQ(lines_of(decoded(u"aa \\S1/2; bb", frame(20))), (texts{"aa ", "# ", "bb"}));
 }

@@ -76,5 +76,14 @@ TEST(Erasure, drops_solids_alone_and_keeps_carets) {
   EXPECT_EQ(text.marks.size(), 2u);
 }
 
+TEST(Erasure, drops_every_empty_solid_wherever_it_lies) {
+  for (const bool drop : {false, true}) {
+    geom_multitext text = decoded(u"abcd");
+    text.marks.push_back(new marks::solid(4, 4, true));
+    text.erase(0, 1, drop);
+    EXPECT_EQ(text.marks.size(), drop ? 0u : 1u);
+  }
+}
+
 }  // namespace
 }  // namespace mtext

@@ -109,6 +109,10 @@ TEST(ParseTabs, a_stop_that_fails_is_read_as_an_item) {
   EXPECT_EQ(paragraph.right, 0.0);
 }
 
+TEST(ParseTabs, the_separator_is_the_character_behind_its_letter_whatever_it_is) {
+  EXPECT_TRUE(equal_tabs(paragraph_of(u"\\pxtD;4,8;").tabs, {{4, 3, u';'}, {8, 0}}));
+}
+
 TEST(ParseTabs, an_input_that_ends_at_the_separator_letter_gives_no_stop) {
   EXPECT_TRUE(paragraph_of(u"\\pxtD").tabs.empty());
 }

@@ -143,11 +143,11 @@ TEST(Serialize, all_codes_stand_in_their_fixed_order) {
                            .pitch = 34,
                            .flags = format::flag_italic | format::flag_underline | format::flag_overline,
                            .charset = 204,
+                           .align = 2,
                            .color = {.kind = 1, .top = 0, .red = 1, .green = 2, .blue = 3},
                            .width_factor = 0.8,
                            .oblique = 0.2617993877991494,
-                           .tracking = 1.2,
-                           .align = 2};
+                           .tracking = 1.2};
 
   EXPECT_EQ(text_of().word(u"a", format).written(),
             u"{\\H2x;\\fArial|b0|i1|c204|p34;\\L\\O\\c197121;\\W0.8;\\Q15;\\T1.2;\\A2;a}");
@@ -191,6 +191,13 @@ TEST(SerializeParagraph, a_change_to_0_is_written) {
   text_of text;
   text.paragraph = {.indent = 1.0};
   EXPECT_EQ(text.next({}).written(), u"\\pxi1;\\P\\pi0;");
+}
+
+TEST(SerializeParagraph, a_zero_keeps_its_sign) {
+  text_of text;
+  text.paragraph = {.left = 2};
+
+  EXPECT_EQ(text.next({.left = -0.0}).written(), u"\\pxl2;\\P\\pl-0;");
 }
 
 TEST(SerializeParagraph, the_first_code_of_all_is_a_px_even_for_a_change_to_0) {
