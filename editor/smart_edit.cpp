@@ -53,6 +53,8 @@ void smart_edit::redoStep() {
   if (m_undo.redo(*m_editable)) repaint(redraw_request::kGadgets | redraw_request::kText);
 }
 
+void smart_edit::openGadgets() { m_gadgets.open(*m_editable, m_host.view().unitsPerPixel()); }
+
 void smart_edit::accept() { m_host.commandInput().type(u"^M"); }
 
 void smart_edit::cancel() { m_host.commandInput().type(u"^C"); }
@@ -105,6 +107,7 @@ void smart_edit::drawCaret(OdGiViewportDraw& draw) {
 
 void smart_edit::drawGadgets(OdGiViewportDraw& draw) {
   draw.geometry().pushModelTransform(m_view_policy.edit_transform());
+  m_gadgets.draw(draw);
   editing::draw_highlights(*m_editable, draw.geometry());
   draw.geometry().popModelTransform();
 }

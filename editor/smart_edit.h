@@ -4,6 +4,8 @@
 
 #include "editor/blink.h"
 #include "editor/editable.h"
+#include "editor/gadget_mouse.h"
+#include "editor/gadget_tree.h"
 #include "editor/layers.h"
 #include "editor/message_filter.h"
 #include "editor/mouse.h"
@@ -76,6 +78,10 @@ class smart_edit : public MTextEditor {
   const undo_stack& undo() const { return m_undo; }
   undo_stack& undo() { return m_undo; }
   text_mouse& mouse() { return m_mouse; }
+  /// Ruler and handles; open in a multi-line session alone.
+  const gadget_tree& gadgets() const { return m_gadgets; }
+  void openGadgets();
+  gadget_mouse& gadgetMouse() { return m_gadget_mouse; }
   const session_layers& layers() const { return m_layers; }
   bool isSingleLine() const { return m_single_line; }
   /// A single-line text that had letters when it was opened.
@@ -118,6 +124,8 @@ class smart_edit : public MTextEditor {
   ExMTextEditablePtr m_editable;
   undo_stack m_undo;
   text_mouse m_mouse;
+  gadget_tree m_gadgets;
+  gadget_mouse m_gadget_mouse{*this};
   view_policy m_view_policy;
   session_layers m_layers;
   redraw_request m_redraw;

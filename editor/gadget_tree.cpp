@@ -1,0 +1,34 @@
+#include "editor/gadget_tree.h"
+
+#include "editor/editable.h"
+
+void gadget_tree::open(const ExMTextEditable& text, double units_per_pixel) {
+  m_text = &text;
+  m_root = odNew<mtext::editor>();
+  m_root->create_children();
+  m_root->text = &text.text();
+  m_root->text_height = text.textHeight();
+  m_root->attach(text.attachment());
+  m_root->scale = units_per_pixel;
+  refreshed();
+}
+
+void gadget_tree::read_settings() const { m_root->settings = m_text->text().info.columns; }
+
+mtext::editor& gadget_tree::refreshed() const {
+  read_settings();
+  m_root->layout();
+  return *m_root;
+}
+
+void gadget_tree::draw(OdGiViewportDraw& draw) const {
+  if (!is_open()) return;
+  OdGiGeometry& geometry = draw.geometry();
+  const OdGiSubEntityTraits before = geometry.traits();
+  geometry.pushModelTransform(OdGeMatrix3d::planeToWorld(m_text->plane()));
+  micui::draw_tree(refreshed(), draw);
+  geometry.popModelTransform();
+  geometry.traits() = before;
+}
+
+micui::extents gadget_tree::reach() const { return is_open() ? m_root->parent_extents() : micui::extents(); }
