@@ -12,6 +12,7 @@ operation_table all_operations() {
   add_escape_operations(table);
   add_geom_operations(table);
   add_session_operations(table);
+  add_gadget_operations(table);
   return table;
 }
 

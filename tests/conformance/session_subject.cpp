@@ -41,6 +41,8 @@ void session_subject::hold_keys(const json& in) {
 
 HostMemoryClipboard& session_subject::clipboard() { return application().clipboard(); }
 
+OdGsView& session_subject::view() { return application().document().view().gsView(); }
+
 const std::string& session_subject::ended() {
   if (const auto typed = application().document().commandInput().take())
     m_ended = std::holds_alternative<HostCancel>(*typed) ? "cancel" : "accept";

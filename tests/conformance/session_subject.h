@@ -19,6 +19,7 @@ class session_subject {
   /// Holds the modifier keys that a step names.
   void hold_keys(const json& in);
   HostMemoryClipboard& clipboard();
+  OdGsView& view();
   /// How the session ended: "", "accept" or "cancel".
   const std::string& ended();
 
