@@ -88,15 +88,6 @@ class ExMTextEditable : public OdDbEntity {
   OdGeExtents3d textExtents() const;
   text_background background;
 
-  // ---- editable_columns.cpp: what the gadgets change
-
-  /// Takes other columns and lays out; the insertion point keeps its place in the drawing.
-  void setColumns(const mtext::column_settings& columns);
-  /// The formats of the paragraphs that the selections touch, and of all, in text order. They stay the
-  /// text's, which has to be laid out when one has changed.
-  std::vector<mtext::format::paragraph*> touchedParagraphs();
-  std::vector<mtext::format::paragraph*> allParagraphs();
-
   // ---- editable_lines.cpp: lines as texts of their own
 
   std::size_t lineCount() const { return m_text.lines.size(); }
@@ -110,7 +101,6 @@ class ExMTextEditable : public OdDbEntity {
 
   /// In draft mode `worldDraw` draws the boxes of letters and stacks alone.
   void setDraft(bool draft) { m_draft = draft; }
-  bool isDraft() const { return m_draft; }
 
   // ---- editable_filing.cpp
 
@@ -215,6 +205,18 @@ class ExMTextEditable : public OdDbEntity {
   bool cut();
   /// `single_line` and `non_empty` tell of the session; see the rules in the file.
   void paste(bool single_line, bool non_empty);
+  /// Whether the clipboard holds a format that `paste` takes.
+  bool canPaste() const;
+  bool isPrivateFormatAvailable() const;
+  /// What is selected, as text without formats; nothing between several selections.
+  std::u16string selectedText() const;
+
+  // ---- editable_field.cpp
+
+  /// The field whose value stands at a point in text coordinates; null if none does.
+  const mtext::marks::field* fieldAt(const OdGePoint2d& at) const;
+  /// The value of the field at a point becomes text as any other.
+  void convertFieldToText(const OdGePoint2d& at);
 
   // ---- end_of_edit.cpp
 

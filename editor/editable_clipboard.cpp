@@ -28,15 +28,6 @@ unsigned private_format(HostClipboard& board) {
   return board.registerFormat(host::resource_string(kPrivateFormatName));
 }
 
-/// What is selected, as text without formats; nothing between several selections.
-std::u16string plain_text(const mtext::geom_multitext& text) {
-  std::u16string result;
-  for (const auto& range : editing::selections_of(text))
-    for (std::size_t at = range.begin; at < range.end; ++at)
-      mtext::serialize_raw(result, text.parts[at].part(), /*tilde_spaces=*/true);
-  return result;
-}
-
 /// What is selected, as format codes that say what differs from the text in front of it.
 std::u16string coded_text(const mtext::geom_multitext& text, const mtext::format::string& base,
                           double height) {
@@ -64,8 +55,16 @@ std::u16string on_one_line(std::u16string text) {
 
 }  // namespace
 
+std::u16string ExMTextEditable::selectedText() const {
+  std::u16string result;
+  for (const auto& range : selections())
+    for (std::size_t at = range.begin; at < range.end; ++at)
+      mtext::serialize_raw(result, m_text.parts[at].part(), /*tilde_spaces=*/true);
+  return result;
+}
+
 bool ExMTextEditable::copy() const {
-  const std::u16string plain = plain_text(m_text);
+  const std::u16string plain = selectedText();
   HostClipboard* board = clipboard();
   if (plain.empty() || !board || !board->empty() || !board->set(CF_UNICODETEXT, plain)) return false;
   if (const unsigned format = private_format(*board))
@@ -92,6 +91,17 @@ bool ExMTextEditable::caretMeetsNewLabel() {
   return std::any_of(carets.begin(), carets.end(), [this](const auto& caret) {
     return editing::opens_with_new_label(m_text, editing::paragraph_start(m_text, caret.begin), m_letters);
   });
+}
+
+bool ExMTextEditable::isPrivateFormatAvailable() const {
+  HostClipboard* board = clipboard();
+  const unsigned format = board ? private_format(*board) : 0;
+  return format != 0 && board->has(format);
+}
+
+bool ExMTextEditable::canPaste() const {
+  HostClipboard* board = clipboard();
+  return board && (board->has(CF_UNICODETEXT) || isPrivateFormatAvailable());
 }
 
 /// Characters as they are: codes in plain text are letters.

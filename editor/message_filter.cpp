@@ -2,6 +2,7 @@
 
 #include "editor/column_boxes.h"
 #include "editor/held_keys.h"
+#include "editor/popup_menu.h"
 #include "editor/session_keys.h"
 #include "editor/smart_edit.h"
 #include "host/exports.h"
@@ -35,7 +36,9 @@ bool session_filter::filterMessage(const HostWindowMessage& message, const OdGeP
       drag(point);
       return false;  // the host goes on to track and pan
     case WM_RBUTTONDOWN:
+      return true;
     case WM_RBUTTONUP:
+      editing::show_popup_menu(m_session, message, point);
       return true;
     case WM_KEYDOWN:
       editing::handle_key_down(m_session, message);

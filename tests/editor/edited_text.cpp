@@ -8,6 +8,7 @@
 #include "od/base/unicode.h"
 #include "od/db/OdDbDatabase.h"
 #include "tests/mtext/stub_finder.h"
+#include "ui/resources/menus.h"
 #include "ui/resources/strings.h"
 
 namespace {
@@ -101,6 +102,7 @@ mtext::convert_info wrapping(double width) {
 edited_text::edited_text(const OdString& codes, const mtext::convert_info& info, int)
     : m_application(std::make_unique<WindowlessApplication>(OdDbDatabase::createEmpty())) {
   resources::register_strings();
+  resources::register_menus();
   m_session = std::make_unique<smart_edit>(m_application->document());
   text().setDatabaseDefaults(&m_application->document().database());
   text().setFinder(std::make_shared<mtext::stub_finder>());

@@ -81,6 +81,22 @@ TEST(EditSession, a_double_click_on_a_text_opens_it) {
   EXPECT_THAT(editedTexts(), HasSubstr("\tTwice\n"));
 }
 
+TEST(EditSession, a_sign_is_chosen_from_the_menu_of_the_right_button_and_undone) {
+  sampleCopy();
+  const std::string degree = kOpenTable + "@key PageUp\n@right 8400,7050\n@menu Degree\n";
+  EXPECT_EQ(runLines(degree + "@key Ctrl+Enter\n").exit_code, 0);
+  EXPECT_THAT(editedTexts(), HasSubstr("\u00B0Table for 8"));
+  EXPECT_EQ(runLines(degree + "@menu 1005\n@right 8400,7050\n@type K\n@key Ctrl+Enter\n").exit_code, 0);
+  EXPECT_THAT(editedTexts(), HasSubstr("\tKTable for 8"));
+}
+
+TEST(EditSession, an_entry_that_the_menu_does_not_offer_is_told) {
+  sampleCopy();
+  const ProgramRun run = runLines(kOpenTable + "@right 8400,7050\n@menu Cut\n@key Ctrl+Enter\n");
+  EXPECT_EQ(run.exit_code, 1);
+  EXPECT_THAT(run.err, HasSubstr("the menu has no entry \"Cut\" that can be chosen."));
+}
+
 TEST(EditSession, quit_with_changes_asks_and_cancel_stays) {
   sampleCopy();
   const ProgramRun run =
