@@ -10,10 +10,25 @@
 
 namespace mtext {
 
+namespace {
+
+/// A number in an order that has a place for what is no number too: a text can come to such a height, and
+/// as a key it would be equal to every other.
+struct ordered_real {
+  double value;
+
+  friend bool operator==(ordered_real a, ordered_real b) { return (a <=> b) == 0; }
+  friend std::strong_ordering operator<=>(ordered_real a, ordered_real b) {
+    return std::strong_order(a.value, b.value);
+  }
+};
+
+}  // namespace
+
 /// What of a format the measures depend on.
 struct mtext_size_finder::style_key {
-  double height;
-  double width_factor;
+  ordered_real height;
+  ordered_real width_factor;
   std::u16string font;
   std::uint32_t face;  ///< bold and italic
   std::uint32_t charset;

@@ -92,6 +92,13 @@ TEST_F(SizeFinder, bold_and_upright_text_are_remembered_apart) {
   EXPECT_EQ(finder.measure(sans(2.5), u"i").advance, upright);
 }
 
+TEST_F(SizeFinder, a_height_that_is_no_number_is_remembered_apart) {
+  const double advance = finder.measure(sans(2.5), u"a").advance;
+  finder.measure(sans(std::nan("")), u"a");
+  EXPECT_EQ(finder.measure(sans(2.5), u"a").advance, advance);
+  EXPECT_NEAR(finder.measure(sans(5), u"a").advance, 2 * advance, 1e-9);
+}
+
 TEST_F(SizeFinder, single_line_text_never_uses_the_ink_depth_of_a_letter) {
   EXPECT_EQ(single_line(OdDb::kTextBase).measure(sans(2.5), u"a").ink_bottom,
             finder.font_metrics(sans(2.5)).below);
