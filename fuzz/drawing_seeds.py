@@ -4,7 +4,8 @@ import pathlib
 import struct
 
 ROOT = pathlib.Path(__file__).resolve().parents[1]
-SAMPLES = ROOT / "samples"
+# The samples, and the drawings of other programs where some lie beside the working tree.
+DRAWINGS = (ROOT / "samples", ROOT.parent / "shared" / "data")
 BINARY_HEAD = b"AutoCAD Binary DXF\r\n\x1a\x00"
 GROUPS_IN_SEED = 400
 
@@ -78,25 +79,40 @@ def sections_of(records):
     return found
 
 
-def small_drawings(groups):
-    """Each kind of record once, in a drawing with little else; and each section as far as a seed goes."""
-    seen, end = set(), [(0, b"EOF")]
+def short_sections(groups):
+    """Each section as far as a seed goes."""
     for name, records in sections_of(records_of(groups)):
-        short = [group for record in records for group in record][:GROUPS_IN_SEED]
-        yield header(b"AC1032") + section(name, [short]) + end
-        for record in records:
-            kind = (name, record[0][1]) if record else None
-            if kind and kind not in seen and len(record) < GROUPS_IN_SEED:
-                seen.add(kind)
-                yield header(b"AC1032") + section(name, [record]) + end
-                yield header(b"AC1015") + section(name, [record]) + end
-                yield section(name, [record]) + end
+        yield name, [group for record in records for group in record][:GROUPS_IN_SEED]
+
+
+def kinds_of_record(all_drawings):
+    """A record of each kind that a section has, with the section's name."""
+    seen = set()
+    for groups in all_drawings:
+        for name, records in sections_of(records_of(groups)):
+            for record in records:
+                kind = (name, record[0][1]) if record else None
+                if kind and kind not in seen and len(record) < GROUPS_IN_SEED:
+                    seen.add(kind)
+                    yield name, record
+
+
+def drawings():
+    """The groups of the drawings in text form."""
+    for folder in DRAWINGS:
+        for path in sorted(folder.glob("*.dxf")):
+            drawing = path.read_bytes()
+            if not drawing.startswith(BINARY_HEAD):
+                yield groups_of(drawing)
 
 
 def dxf_read():
-    for path in sorted(SAMPLES.glob("*.dxf")):
-        for groups in small_drawings(groups_of(path.read_bytes())):
-            yield as_text(groups)
-            yield as_text(groups, b"\r\n")
-            yield as_binary(groups)
-            yield as_binary(groups, code_in_one_byte)
+    """Small drawings in all forms, new and old."""
+    for name, groups in [*kinds_of_record(drawings()), *short_sections(next(drawings()))]:
+        body = section(name, [groups]) + [(0, b"EOF")]
+        new = header(b"AC1032") + body
+        yield as_text(new)
+        yield as_text(header(b"AC1015") + body, b"\r\n")
+        yield as_text(body)
+        yield as_binary(new)
+        yield as_binary(body, code_in_one_byte)
