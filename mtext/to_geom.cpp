@@ -1,6 +1,10 @@
 #include "mtext/to_geom.h"
 
 #include <memory>
+#include <utility>
+#include <vector>
+
+#include "mtext/surrogate_pair.h"
 
 namespace mtext {
 namespace {
@@ -70,7 +74,10 @@ class unroller {
   }
 
   void add_words(std::u16string_view text, const format::string& format) {
-    for (char16_t each : text) push<geom_word>(string(format, std::u16string(1, each)));
+    for (char16_t each : text) {
+      push<geom_word>(string(format, std::u16string(1, each)));
+      if (is_low_half(each)) measure_pair(m_target.parts, m_target.parts.size() - 1, m_finder);
+    }
   }
 
   void add_string(const string& source) { add_words(source.text, resolved(source)); }

@@ -5,6 +5,7 @@
 
 #include "mtext/entity/draw_stack.h"
 #include "mtext/entity/part_pen.h"
+#include "mtext/surrogate_pair.h"
 
 namespace mtext {
 
@@ -24,8 +25,14 @@ void draw_scores(const geom_word& word, OdGiGeometry& geometry) {
   if (word.format.flags & format::flag_overline) line_at(word.y + word.size.above + distance);
 }
 
-void draw_word(const geom_word& word, part_pen& pen) {
-  pen.text({word.x, word.y}, word.text, word.format);
+/// The letters of the word at `at`, with the second half of its character where it is only the first.
+std::u16string character_at(const geom_parts& parts, std::size_t at) {
+  const auto letters = [&](std::size_t i) { return static_cast<const geom_word&>(parts[i]).text; };
+  return splits_pair(parts, at + 1) ? letters(at) + letters(at + 1) : letters(at);
+}
+
+void draw_word(const geom_word& word, std::u16string_view character, part_pen& pen) {
+  pen.text({word.x, word.y}, character, word.format);
   draw_scores(word, pen.geometry());
 }
 
@@ -50,13 +57,15 @@ void draw_parts(const geom_multitext& text, OdGiGeometry& geometry, const OdGiFo
                 const part_drawing& drawing) {
   const OdGiSubEntityTraits before = geometry.traits();
   part_pen pen(geometry, fonts);
-  for (const geom_part& part : text.parts) {
+  for (std::size_t at = 0; at < text.parts.size(); ++at) {
+    const geom_part& part = text.parts[at];
     if (part.type() != part_string && part.type() != part_stack) continue;
+    if (splits_pair(text.parts, at)) continue;  // the first half drew both
     geometry.traits().setTrueColor(color_of(part.part().format.color, drawing));
     if (drawing.draft)
       draw_box(part, geometry);
     else if (part.type() == part_string)
-      draw_word(static_cast<const geom_word&>(part), pen);
+      draw_word(static_cast<const geom_word&>(part), character_at(text.parts, at), pen);
     else
       draw_stack(static_cast<const geom_stack&>(part), pen);
   }
