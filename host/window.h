@@ -13,6 +13,8 @@ enum HostCursor : int {
   IDC_SIZENS = 32645,
 };
 
+class HostComposer;
+
 /// The drawing view's window.
 class HostWindow {
  public:
@@ -26,4 +28,11 @@ class HostWindow {
   virtual int popupMenu(const HostMenu& menu, HostPixel at) = 0;
   /// Gives a message to the window behind those that wait.
   virtual void post(unsigned message) = 0;
+
+  /// Who shows what an input method composes; null while nobody does. It stays its owner's.
+  HostComposer* composer() const { return m_composer; }
+  void setComposer(HostComposer* composer) { m_composer = composer; }
+
+ private:
+  HostComposer* m_composer = nullptr;
 };
