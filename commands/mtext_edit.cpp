@@ -26,17 +26,18 @@ bool is_on_locked_layer(const OdDbObjectId& id) {
 
 }  // namespace
 
-int editMText(OdDbMTextPtr text, HostDocument& document) {
+int editMText(OdDbMTextPtr text, HostDocument& document, const std::optional<OdGePoint3d>& caret_at) {
   smart_edit session(document);
-  session.beginMTextEdit(text);
+  session.beginMTextEdit(text, {.caret_at = caret_at});
   const int result = wait_for_session(document.prompt(), session);
   const bool accepted = session.finishEdit(result == kSessionAccepted, /*force=*/session.isCompact());
   return accepted ? kCommandDone : kCommandCancelled;
 }
 
-int editMTextById(const OdDbObjectId& id, HostDocument& document) {
+int editMTextById(const OdDbObjectId& id, HostDocument& document,
+                  const std::optional<OdGePoint3d>& caret_at) {
   const auto text = odCast<OdDbMText>(id.openObject(OdDb::kForWrite));
-  if (text) return editMText(text, document);
+  if (text) return editMText(text, document, caret_at);
   document.prompt().refuse(host::resource_string(kNotMText));
   return kCommandDone;
 }
@@ -68,5 +69,5 @@ int CMTextEditCmd::edit(HostDocument& document) {
     document.prompt().refuse(Supp_Translate(u"Layer locked"));
     return kCommandDone;
   }
-  return editMTextById(id, document);
+  return editMTextById(id, document, selected.pressed());
 }

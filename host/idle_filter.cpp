@@ -31,14 +31,14 @@ void HostIdleFilter::select(const OdGePoint3d& point, bool shift) {
   } else if (shift) {
     selected.remove(id);
   } else {
-    selected.add(id);
+    selected.add(id, point);
   }
 }
 
 void HostIdleFilter::edit(const OdGePoint3d& point) {
   const OdDbObjectId id = entityAt(point);
   if (id.isNull() || !odCast<OdDbMText>(id.openObject())) return;
-  m_document.pickFirst() = HostSelectionSet(id);
+  m_document.pickFirst() = HostSelectionSet(id, point);
   m_document.commandInput().dropUnfinished();
   m_document.commandInput().type(u"MTextEdit^M");
 }

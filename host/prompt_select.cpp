@@ -22,11 +22,6 @@ OdDbObjectId newest_entity(const OdDbDatabase& database) {
   return entities.empty() ? OdDbObjectId() : entities.back();
 }
 
-bool add_if_any(const OdDbObjectId& id, HostSelectionSet& picked) {
-  if (!id.isNull()) picked.add(id);
-  return !id.isNull();
-}
-
 }  // namespace
 
 int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) {
@@ -49,13 +44,18 @@ int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, Host
 
 bool HostPromptLoop::addEntityAt(const OdGePoint3d& point, HostSelectionSet& picked) {
   const double aperture = HostIdleFilter::kAperture * m_document.view().unitsPerPixel();
-  return add_if_any(m_document.picking().pick(point, aperture), picked);
+  const OdDbObjectId id = m_document.picking().pick(point, aperture);
+  if (!id.isNull()) picked.add(id, point);
+  return !id.isNull();
 }
 
 bool HostPromptLoop::addNamedEntity(std::u16string_view line, HostSelectionSet& picked) {
   const std::u16string_view typed = host::without_outer_blanks(line);
-  if (odEqualNoCase(typed, u"Last") || odEqualNoCase(typed, u"L"))
-    return add_if_any(newest_entity(m_document.database()), picked);
+  if (odEqualNoCase(typed, u"Last") || odEqualNoCase(typed, u"L")) {
+    const OdDbObjectId newest = newest_entity(m_document.database());
+    if (!newest.isNull()) picked.add(newest);
+    return !newest.isNull();
+  }
   const auto point = host::typed_point(typed, m_last_point);
   return point && addEntityAt(*point, picked);
 }

@@ -10,4 +10,9 @@ void HostSelectionSet::add(const OdDbObjectId& id) {
   if (!contains(id)) m_ids.push_back(id);
 }
 
+void HostSelectionSet::add(const OdDbObjectId& id, const OdGePoint3d& pressed) {
+  add(id);
+  m_pressed = pressed;
+}
+
 void HostSelectionSet::remove(const OdDbObjectId& id) { std::erase(m_ids, id); }

@@ -39,6 +39,22 @@ TEST(MTextEdit, asks_for_a_text_where_none_is_selected) {
   EXPECT_EQ(contents_of(id), OdString(u"xHall"));
 }
 
+TEST(MTextEdit, the_caret_begins_where_the_text_was_pressed) {
+  for (const bool selected_before : {false, true}) {
+    command_run run;
+    const auto id = text_in(run);
+    const OdGePoint3d behind_all{10 + 0.99 * odCast<OdDbMText>(id.openObject())->actualWidth(), 18.5, 0};
+    if (selected_before)
+      run.application.document().pickFirst().add(id, behind_all);
+    else
+      run.application.input().click(behind_all);
+    run.type(u"x");
+    run.key(VK_RETURN, kCtrl);
+    EXPECT_EQ(run.edit(), kCommandDone);
+    EXPECT_EQ(contents_of(id), OdString(u"Hallx"));
+  }
+}
+
 TEST(MTextEdit, cancel_at_the_selection_has_status_1) {
   command_run run;
   run.application.input().cancel();
