@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "commands/current_ucs.h"
 #include "commands/preview_tracker.h"
 #include "commands/session_loop.h"
 #include "editor/smart_edit.h"
@@ -39,8 +40,9 @@ OdDbMTextPtr new_entity(OdDbDatabase& database) {
   auto text = odNew<OdDbMText>();
   text->setDatabaseDefaults(&database);
   text->setTextHeight(height_for(database));
-  text->setNormal(OdGeVector3d::kZAxis);
-  text->setDirection(OdGeVector3d::kXAxis);
+  const ucs_axes axes = current_ucs(database);
+  text->setNormal(axes.z);
+  text->setDirection(axes.x);
   if (const OdDbObjectId style = database.getTEXTSTYLE()) text->setTextStyle(style);
   return text;
 }

@@ -3,7 +3,9 @@
 #include "commands/mtext_create.h"
 #include "commands/preview_tracker.h"
 #include "host/key_code.h"
+#include "od/db/OdDbDrawing.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
+#include "od/dxf/header_variables.h"
 #include "od/gi/OdGsView.h"
 #include "tests/commands/command_run.h"
 
@@ -152,4 +154,35 @@ TEST(PreviewTracker, shows_a_sample_at_the_cursor_then_a_box) {
   EXPECT_EQ(text->location(), (OdGePoint3d{4, 16, 0}));
   EXPECT_DOUBLE_EQ(text->width(), 6);
   EXPECT_DOUBLE_EQ(text->height(), 6);
+}
+
+TEST(MTextCreate, the_text_lies_in_the_user_s_coordinate_system) {
+  command_run run;
+  dxf::HeaderVariables header(run.database->drawing().file());
+  header.set_point("$UCSXDIR", 10, {0, 1, 0});
+  header.set_point("$UCSYDIR", 10, {-1, 0, 0});
+  // Turned by a quarter to the left: along the text is up, and its top is to the left.
+  run.application.input().click({10, 20, 0});
+  run.application.input().click({25, 60, 0});
+  run.type(u"x");
+  run.key(VK_RETURN, kCtrl);
+  run.create();
+  ASSERT_TRUE(created(run));
+  EXPECT_NEAR(created(run)->direction().y, 1, 1e-12);
+  EXPECT_EQ(created(run)->location(), (OdGePoint3d{10, 20, 0}));
+  EXPECT_DOUBLE_EQ(created(run)->width(), 40);
+  EXPECT_DOUBLE_EQ(created(run)->height(), 15);
+}
+
+TEST(MTextCreate, axes_of_the_user_that_span_no_plane_are_the_world_s) {
+  command_run run;
+  dxf::HeaderVariables(run.database->drawing().file()).set_point("$UCSYDIR", 10, {1, 0, 0});
+  run.application.input().click({0, 10, 0});
+  run.application.input().click({10, 0, 0});
+  run.type(u"x");
+  run.key(VK_RETURN, kCtrl);
+  run.create();
+  ASSERT_TRUE(created(run));
+  EXPECT_EQ(created(run)->direction(), OdGeVector3d::kXAxis);
+  EXPECT_EQ(created(run)->normal(), OdGeVector3d::kZAxis);
 }
