@@ -34,5 +34,8 @@ int QtEvents::box(int level, std::u16string_view text, HostWindow*, int) {
   QMessageBox box(&m_parent);
   box.setTextFormat(Qt::PlainText);
   box.setText(toQt(splitBoxText(text).shown));
-  return level == kBoxQuestion ? ask(box) : alert(box);
+  if (level != kBoxQuestion) return alert(box);
+  const int answer = ask(box);
+  if (answer == kBoxCancel) m_on_cancel();
+  return answer;
 }

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <functional>
+#include <utility>
+
 #include "host/events.h"
 
 class QWidget;
@@ -11,7 +14,10 @@ class QtEvents : public IEvents {
   explicit QtEvents(QWidget& parent) : m_parent(parent) {}
   /// Esc and the box's close button answer as Cancel.
   int box(int level, std::u16string_view text, HostWindow* owner, int style) override;
+  /// Is called when a question is answered by Cancel, before the answer is given.
+  void setOnCancel(std::function<void()> on_cancel) { m_on_cancel = std::move(on_cancel); }
 
  private:
   QWidget& m_parent;
+  std::function<void()> m_on_cancel = [] {};
 };

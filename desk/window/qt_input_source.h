@@ -23,6 +23,8 @@ class QtInputSource : public HostInputSource {
   /// Adds a moved cursor: the question for its shape and the move. A move that nobody has worked on yet is
   /// replaced by it.
   void pushMove(HostWindowMessage move);
+  /// Drops the inputs that nobody has worked on yet.
+  void forget() { m_inputs.clear(); }
   /// The window is gone: from now on there is nothing but the end of the input.
   void end();
   /// Whether there are inputs that nobody has worked on yet.

@@ -41,6 +41,7 @@ WindowDesk::WindowDesk(IProfile& profile)
   connectWidgets();
   m_source.setOnIdle([this] { beIdle(); });
   setBackground(m_profile.number(kSection, kDarkBackground, 1) != 0);
+  m_events.setOnCancel([this] { m_source.forget(); });
   show(newDrawing());
 }
 
@@ -83,7 +84,8 @@ void WindowDesk::takeComposed(const QString& text) {
   m_window.panel().edit().insert(text);
 }
 
-/// A menu entry stops what runs, as a person would with Esc, and types its lines.
+/// A menu entry stops what runs, as a person would with Esc, and types its lines. A question on the way that
+/// is answered by Cancel takes all of it back.
 void WindowDesk::type(const QStringList& lines) {
   if (!m_line.awaitsCommand()) {
     m_source.push(HostCancel{});
