@@ -1,10 +1,23 @@
 #include "desk/window/drawing_view.h"
 
+#include <QGuiApplication>
+#include <QInputMethod>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QPainter>
 
 #include "desk/window/mouse_messages.h"
+
+namespace {
+
+/// Where the input method has its caret: behind its text unless it says otherwise.
+int composedCaret(const QInputMethodEvent& event) {
+  for (const QInputMethodEvent::Attribute& attribute : event.attributes())
+    if (attribute.type == QInputMethodEvent::Cursor) return attribute.start;
+  return int(event.preeditString().size());
+}
+
+}  // namespace
 
 DrawingView::DrawingView(QWidget* parent)
     : QWidget(parent), m_view([this] { update(); }), m_painter(m_view), m_navigation(m_view.gsView()) {
@@ -49,6 +62,7 @@ void DrawingView::send(unsigned number, const QMouseEvent& event) {
 }
 
 void DrawingView::mousePressEvent(QMouseEvent* event) {
+  if (m_composing) QGuiApplication::inputMethod()->commit();
   if (event->button() == Qt::MiddleButton) m_navigation.grab(event->position());
   send(pressNumber(event->button()), *event);
 }
@@ -81,6 +95,36 @@ void DrawingView::wheelEvent(QWheelEvent* event) {
 void DrawingView::keyPressEvent(QKeyEvent* event) { emit keyLeft(event); }
 
 void DrawingView::inputMethodEvent(QInputMethodEvent* event) {
+  m_composing = !event->preeditString().isEmpty();
+  emit composing(event->preeditString(), composedCaret(*event));
   if (!event->commitString().isEmpty()) emit composed(event->commitString());
   event->accept();
+}
+
+QVariant DrawingView::inputMethodQuery(Qt::InputMethodQuery query) const {
+  if (query != Qt::ImCursorRectangle) return QWidget::inputMethodQuery(query);
+  return caretBox();
+}
+
+QRect DrawingView::caretBox() const {
+  const std::optional<HostCaret> caret = m_caret_source();
+  if (!caret) return {};
+  const OdGePoint2d top = m_view.gsView().toDevice(caret->top);
+  const OdGePoint2d bottom = m_view.gsView().toDevice(caret->bottom);
+  const QRectF ends(QPointF(top.x, top.y), QPointF(bottom.x, bottom.y));
+  return ends.normalized().toAlignedRect().adjusted(0, 0, 1, 1);
+}
+
+void DrawingView::followCaret() {
+  const QRect box = caretBox();
+  if (box == m_caret_box) return;
+  m_caret_box = box;
+  updateMicroFocus(Qt::ImCursorRectangle);
+}
+
+void DrawingView::dropComposition() {
+  if (!m_composing) return;
+  QGuiApplication::inputMethod()->reset();
+  m_composing = false;
+  emit composing({}, 0);
 }

@@ -9,6 +9,14 @@ namespace {
 constexpr unsigned kComposedKey = 231;
 constexpr char16_t kDeleteCode = 127;
 
+/// AltGr comes as Ctrl and Alt on some systems, and is known by the letter that it typed: with the two keys
+/// themselves there is none, or a control code.
+bool isTypedByAltGr(const QKeyEvent& event) {
+  const bool both = event.modifiers().testFlags(Qt::ControlModifier | Qt::AltModifier);
+  return both && !event.text().isEmpty() && event.text()[0] >= QChar(u' ') &&
+         event.text()[0] != QChar(kDeleteCode);
+}
+
 /// The units that arrive as WM_CHAR. A key with Alt is a menu's, and Delete has no character.
 QString charactersOf(const QKeyEvent& event) {
   if (event.modifiers() & Qt::AltModifier) return {};
@@ -21,6 +29,7 @@ QString charactersOf(const QKeyEvent& event) {
 std::vector<HostWindowMessage> keyMessages(const QKeyEvent& event) {
   const bool down = event.type() == QEvent::KeyPress;
   if (!down && event.isAutoRepeat()) return {};
+  if (down && isTypedByAltGr(event)) return composedMessages(event.text(), event.count());
   HostWindowMessage message{.number = unsigned(down ? WM_KEYDOWN : WM_KEYUP),
                             .code = static_cast<unsigned>(virtualKeyOf(event)),
                             .repeat = event.count(),
@@ -37,12 +46,13 @@ std::vector<HostWindowMessage> keyMessages(const QKeyEvent& event) {
   return messages;
 }
 
-std::vector<HostWindowMessage> composedMessages(const QString& text) {
+std::vector<HostWindowMessage> composedMessages(const QString& text, int repeat) {
   std::vector<HostWindowMessage> messages;
   for (const QChar unit : text) {
-    messages.push_back({.number = WM_KEYDOWN, .code = kComposedKey});
-    messages.push_back({.number = WM_CHAR, .code = unit.unicode()});
-    messages.push_back({.number = WM_KEYUP, .code = kComposedKey});
+    // The halves of a character belong to one key.
+    if (!unit.isLowSurrogate()) messages.push_back({.number = WM_KEYDOWN, .code = kComposedKey});
+    messages.push_back({.number = WM_CHAR, .code = unit.unicode(), .repeat = repeat});
+    if (!unit.isHighSurrogate()) messages.push_back({.number = WM_KEYUP, .code = kComposedKey});
   }
   return messages;
 }

@@ -11,6 +11,9 @@ bool isKey(const QEvent& event) {
   return event.type() == QEvent::KeyPress || event.type() == QEvent::KeyRelease;
 }
 
+/// Keys, and what an input method makes of them.
+bool isTyping(const QEvent& event) { return isKey(event) || event.type() == QEvent::InputMethod; }
+
 bool isButton(const QEvent& event) {
   return event.type() == QEvent::MouseButtonPress || event.type() == QEvent::MouseButtonRelease ||
          event.type() == QEvent::MouseButtonDblClick;
@@ -33,7 +36,7 @@ bool KeyRouter::eventFilter(QObject* target, QEvent* event) {
 }
 
 bool KeyRouter::mustWait(QEvent* event) const {
-  if (!isKey(*event) && !isButton(*event)) return false;
+  if (!isTyping(*event) && !isButton(*event)) return false;
   return !m_releasing && (m_ways.inputs_wait() || !m_held.empty());
 }
 
@@ -52,7 +55,7 @@ void KeyRouter::release() {
   while (!m_held.empty() && !m_ways.inputs_wait()) {
     Held held = std::move(m_held.front());
     m_held.pop_front();
-    QWidget* const focused = isKey(*held.event) ? m_window.focusWidget() : nullptr;
+    QWidget* const focused = isTyping(*held.event) ? m_window.focusWidget() : nullptr;
     QWidget* const target = focused ? focused : held.target.data();
     if (!target) continue;
     m_releasing = true;

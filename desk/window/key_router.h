@@ -12,7 +12,7 @@ class QWidget;
 
 /// Decides where a key of the main window goes. While an editing session is open every key is the session's:
 /// none reaches the command line, a menu or a shortcut. And while inputs wait that nobody has worked on yet,
-/// keys and mouse buttons wait behind them, since only then is it known whose they are.
+/// keys, composed text and mouse buttons wait behind them, since only then is it known whose they are.
 class KeyRouter : public QObject {
  public:
   /// The questions that the router asks, and where it sends the keys of a session.

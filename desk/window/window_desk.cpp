@@ -1,6 +1,7 @@
 #include "desk/window/window_desk.h"
 
 #include <QKeyEvent>
+#include <algorithm>
 
 #include "desk/commands/command_table.h"
 #include "desk/document/drawing_file.h"
@@ -36,12 +37,12 @@ WindowDesk::WindowDesk(IProfile& profile)
                      .update_now = [this] { m_window.view().update(); }}),
       m_router(m_window, {.has_session = [this] { return document().hasSession(); },
                           .inputs_wait = [this] { return m_source.hasInputs(); },
-                          .to_session = [this](const QKeyEvent& event) { sendKeys(keyMessages(event)); }}) {
+                          .to_session = [this](const QKeyEvent& event) { sendKey(event); }}) {
   registerDeskCommands(m_application.commandFactory(), *this);
   connectWidgets();
   m_source.setOnIdle([this] { beIdle(); });
-  setBackground(m_profile.number(kSection, kDarkBackground, 1) != 0);
   m_events.setOnCancel([this] { m_source.forget(); });
+  setBackground(m_profile.number(kSection, kDarkBackground, 1) != 0);
   show(newDrawing());
 }
 
@@ -57,6 +58,12 @@ void WindowDesk::connectWidgets() {
   QObject::connect(&view, &DrawingView::pointed, &m_window, &MainWindow::showCoordinates);
   QObject::connect(&view, &DrawingView::keyLeft, &edit, &CommandEdit::takeKey);
   QObject::connect(&view, &DrawingView::composed, [this](const QString& text) { takeComposed(text); });
+  QObject::connect(&view, &DrawingView::composing,
+                   [this](const QString& text, int caret) { showComposing(text, caret); });
+  view.setCaretSource([this] {
+    HostComposer* const composer = m_host_window.composer();
+    return composer ? composer->caret() : std::nullopt;
+  });
   QObject::connect(&edit, &CommandEdit::entered,
                    [this](const QString& line) { m_source.push(HostTypedLine{fromQt(line)}); });
   QObject::connect(&edit, &CommandEdit::cancelled, [this] { m_source.push(HostCancel{}); });
@@ -77,6 +84,18 @@ void WindowDesk::sendKeys(std::vector<HostWindowMessage> messages) {
     m_window.view().locate(message);
     m_source.push(message);
   }
+}
+
+/// Esc takes back what is being composed, and nothing else.
+void WindowDesk::sendKey(const QKeyEvent& event) {
+  const bool is_escape = event.key() == Qt::Key_Escape && event.type() == QEvent::KeyPress;
+  if (is_escape && m_window.view().isComposing()) return m_window.view().dropComposition();
+  sendKeys(keyMessages(event));
+}
+
+void WindowDesk::showComposing(const QString& text, int caret) {
+  if (HostComposer* const composer = m_host_window.composer())
+    composer->compose({fromQt(text), static_cast<std::size_t>(std::max(caret, 0))});
 }
 
 void WindowDesk::takeComposed(const QString& text) {
@@ -108,7 +127,9 @@ void WindowDesk::beIdle() {
   DrawingView& view = m_window.view();
   if (document().hasSession()) {
     if (m_window.panel().edit().hasFocus()) view.setFocus();
+    view.followCaret();
   } else {
+    view.dropComposition();
     view.setCursor(Qt::CrossCursor);
   }
   view.paintIfStale();

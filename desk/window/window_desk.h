@@ -42,6 +42,8 @@ class WindowDesk : public Desk {
   void connectWidgets();
   void send(HostWindowMessage message);
   void sendKeys(std::vector<HostWindowMessage> messages);
+  void sendKey(const QKeyEvent& event);
+  void showComposing(const QString& text, int caret);
   void takeComposed(const QString& text);
   void type(const QStringList& lines);
   void setBackground(bool dark);

@@ -9,7 +9,7 @@ import sys
 def needed(program):
     """Ends the test with a sentence when a program of the suite is not installed."""
     if shutil.which(program) is None:
-        sys.exit(f"{program} is missing: install the packages xvfb, xdotool and imagemagick.")
+        sys.exit(f"{program} is missing: install the packages xvfb, x11-xkb-utils, xdotool and imagemagick.")
     return program
 
 
