@@ -14,11 +14,12 @@ namespace {
 constexpr double kStopDistance = 3.0;  ///< of the stops that indenting adds, in text heights
 
 /// What indenting does to the stops of an item's paragraph, before its level changes.
-void step_tabs(std::vector<mtext::format::tab_stop>& tabs, bool back) {
+void step_tabs(mtext::format::tab_list& tabs, bool back) {
+  auto& stops = tabs.edit();
   if (!back)
-    tabs.push_back({kStopDistance * static_cast<double>(tabs.size()), 0, u' '});
-  else if (!tabs.empty())
-    tabs.erase(tabs.begin());
+    stops.push_back({kStopDistance * static_cast<double>(stops.size()), 0, u' '});
+  else if (!stops.empty())
+    stops.erase(stops.begin());
 }
 
 }  // namespace

@@ -14,8 +14,7 @@ namespace {
 class disposer {
  public:
   explicit disposer(geom_multitext& text) : m_text(text), m_columns(text.info.columns) {
-    m_cursor.paragraph = text.format;
-    format::clean_tabs(m_cursor.paragraph.tabs);
+    take_paragraph(m_cursor, text.format);
   }
 
   void run() {

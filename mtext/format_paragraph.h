@@ -2,9 +2,8 @@
 
 #include <cstdint>
 #include <optional>
-#include <vector>
 
-#include "mtext/tab_stop.h"
+#include "mtext/tab_list.h"
 #include "od/base/export.h"
 
 namespace mtext::format {
@@ -36,7 +35,7 @@ struct paragraph {
   std::uint32_t alignment = 0;
   line_spacing spacing = {};
   /// Tab stops in the order in which they were given.
-  std::vector<tab_stop> tabs = {};
+  tab_list tabs = {};
 };
 
 /// A subset of the fields of `paragraph`. A fresh one holds nothing.
@@ -48,7 +47,7 @@ struct paragraph_partial {
   std::optional<double> after = {};
   std::optional<std::uint32_t> alignment = {};
   std::optional<line_spacing> spacing = {};
-  std::optional<std::vector<tab_stop>> tabs = {};
+  std::optional<tab_list> tabs = {};
 };
 
 /// Every field of `p` but `relative`, set. Lengths are taken as they are, not scaled.

@@ -3,9 +3,9 @@
 #include <boost/logic/tribool.hpp>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <utility>
 
+#include "mtext/font_name.h"
 #include "mtext/text_color.h"
 #include "od/base/export.h"
 
@@ -19,20 +19,23 @@ enum string_flag : std::uint32_t { flag_bold = 1, flag_italic = 2, flag_underlin
 /// Heights, and in `merge` all other reals, that differ by less than this count as the same.
 inline constexpr double tolerance = 0.0001;
 
-/// The complete format of a run of characters.
+/// The complete format of a run of characters. Every character of a laid-out text has one: the order of the
+/// fields leaves no gaps.
 struct string {
   /// Text height: in drawing units, or a factor, as `height_kind` says.
   double height = 1.0;
   /// 0: `height` is in drawing units. 1: a factor of the base text height that the layout receives.
   std::uint32_t height_kind = 1;
   /// The typeface's name, or the file name of a shape font with its ".shx".
-  std::u16string font = {};
+  font_name font = {};
   /// Pitch-and-family number of the font.
   std::uint32_t pitch = 0;
   /// Bits of `string_flag`.
   std::uint32_t flags = 0;
   /// Character set number of the font.
   std::uint32_t charset = 0;
+  /// Vertical alignment in the line: 0 bottom, 1 centre, 2 top.
+  std::uint32_t align = 0;
   /// The font is a shape font and not a typeface.
   bool is_shx = false;
   text_color color = {};
@@ -42,8 +45,6 @@ struct string {
   double oblique = 0.0;
   /// Factor of the space between characters.
   double tracking = 1.0;
-  /// Vertical alignment in the line: 0 bottom, 1 centre, 2 top.
-  std::uint32_t align = 0;
 };
 
 /// Heights are compared with `tolerance`, the other reals exactly: deliberately stricter than `merge`, so
@@ -55,7 +56,7 @@ SCRIBE_EXPORT bool operator==(const string& a, const string& b);
 struct string_partial {
   /// Value and `height_kind`.
   std::optional<std::pair<double, std::uint32_t>> height = {};
-  std::optional<std::u16string> font = {};
+  std::optional<font_name> font = {};
   std::optional<std::uint32_t> pitch = {};
   std::optional<std::uint32_t> charset = {};
   boost::logic::tribool is_shx = boost::logic::indeterminate;

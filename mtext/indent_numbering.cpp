@@ -10,10 +10,10 @@ constexpr double hang = 2.0;  ///< how far a label stands to the left of its tex
 /// Leaves one tab stop: the first, moved by `offset`, or one at the depth of the innermost level.
 void move_tabs(format::paragraph& paragraph, double offset, std::size_t levels) {
   if (paragraph.tabs.empty()) {
-    paragraph.tabs.push_back({static_cast<double>(levels) * level_depth, 0, u' '});
+    paragraph.tabs.edit().push_back({static_cast<double>(levels) * level_depth, 0, u' '});
   } else {
-    paragraph.tabs.resize(1);
-    paragraph.tabs.front().position += offset;
+    paragraph.tabs.edit().resize(1);
+    paragraph.tabs.edit().front().position += offset;
   }
 }
 
@@ -48,7 +48,7 @@ void clear_numbering(geom_multitext& text, marks::numbering& mark, format::parag
   text.erase(mark, /*drop_empty=*/false);
   paragraph.indent = 0.0;
   paragraph.left = 0.0;
-  paragraph.tabs.clear();
+  paragraph.tabs = {};
 }
 
 }  // namespace mtext

@@ -238,10 +238,19 @@ string_metrics layout_line(geom_multitext& text, line_cursor& cursor) {
   return line.size;
 }
 
+void take_paragraph(line_cursor& cursor, const format::paragraph& paragraph) {
+  format::tab_list cleaned = std::move(cursor.paragraph.tabs);
+  cursor.paragraph = paragraph;
+  if (!paragraph.tabs.is_shared_with(cursor.given_tabs)) {
+    cursor.given_tabs = cleaned = paragraph.tabs;
+    format::clean_tabs(cleaned.edit());
+  }
+  cursor.paragraph.tabs = std::move(cleaned);
+}
+
 void enter_paragraph(const geom_multitext& text, line_cursor& cursor) {
   const part& opener = text.parts[cursor.next - 1].part();
-  cursor.paragraph = static_cast<const new_paragraph&>(opener).paragraph;
-  format::clean_tabs(cursor.paragraph.tabs);
+  take_paragraph(cursor, static_cast<const new_paragraph&>(opener).paragraph);
   cursor.paragraph_begin = cursor.next;
 }
 

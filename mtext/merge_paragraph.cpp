@@ -34,7 +34,7 @@ paragraph_partial merge(double base, const paragraph& a, const paragraph& b) {
   lengths.set_if_apart(change.after, &paragraph::after);
   if (a.alignment != b.alignment) change.alignment = b.alignment;
   if (a.spacing != b.spacing) change.spacing = b.spacing;
-  if (!equal_tabs(a.tabs, b.tabs)) change.tabs = b.tabs;
+  if (!a.tabs.is_shared_with(b.tabs) && !equal_tabs(a.tabs, b.tabs)) change.tabs = b.tabs;
   return change;
 }
 

@@ -54,7 +54,7 @@ bool read_item_here(text_cursor& cursor, format::paragraph& paragraph) {
   if (double* length = length_of(letter, paragraph)) *length = read_number(cursor).value_or(0.0);
   if (letter == u'q') read_alignment(cursor, paragraph.alignment);
   if (letter == u's') read_spacing(cursor, paragraph.spacing);
-  if (letter == u't') read_tabs(cursor, paragraph.tabs);
+  if (letter == u't') paragraph.tabs = read_tabs(cursor);
   return true;
 }
 

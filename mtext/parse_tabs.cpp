@@ -49,10 +49,11 @@ bool read_list_entry(text_cursor& cursor, std::vector<tab_stop>& tabs) {
 
 }  // namespace
 
-void read_tabs(text_cursor& cursor, std::vector<tab_stop>& tabs) {
-  tabs.clear();
+std::vector<tab_stop> read_tabs(text_cursor& cursor) {
+  std::vector<tab_stop> tabs;
   while (read_list_entry(cursor, tabs) && cursor.accept(u',')) {
   }
+  return tabs;
 }
 
 }  // namespace mtext::reading

@@ -7,8 +7,8 @@
 
 namespace mtext::reading {
 
-/// The list of tab stops behind the `t` of a paragraph code, into `tabs`, which is emptied first. A stop that
-/// is no stop ends the list and leaves the cursor at its start.
-void read_tabs(text_cursor& cursor, std::vector<format::tab_stop>& tabs);
+/// The list of tab stops behind the `t` of a paragraph code. A stop that is no stop ends the list and leaves
+/// the cursor at its start.
+std::vector<format::tab_stop> read_tabs(text_cursor& cursor);
 
 }  // namespace mtext::reading

@@ -18,11 +18,44 @@ double effective_height(const format::string& format, double height) {
   return format.height_kind == 1 ? height * format.height : height;
 }
 
+format::tab_list scaled(const format::tab_list& tabs, double factor) {
+  std::vector<format::tab_stop> stops = tabs;
+  for (format::tab_stop& stop : stops) stop.position *= factor;
+  return stops;
+}
+
+/// Makes paragraphs relative, one after the other. Those that share their stops share the scaled ones too.
+class relative_paragraphs {
+ public:
+  void add(format::paragraph& paragraph, double height) {
+    if (paragraph.relative) return;
+    const format::tab_list given = std::exchange(paragraph.tabs, {});
+    make_relative(paragraph, height);
+    if (!given.is_shared_with(m_given) || height != m_height) {
+      m_given = given;
+      m_height = height;
+      m_scaled = scaled(given, 1 / height);
+    }
+    paragraph.tabs = m_scaled;
+  }
+
+ private:
+  format::tab_list m_given;
+  format::tab_list m_scaled;
+  double m_height = 0;  ///< by which `m_given` became `m_scaled`
+};
+
 /// Adds elements to a text, measured one by one.
 class unroller {
  public:
   unroller(geom_multitext& target, double height, const string_size_finder& finder)
       : m_target(target), m_height(height), m_finder(finder) {}
+
+  /// Gives the text the format of its first paragraph.
+  void open(const format::paragraph& first) {
+    m_target.format = first;
+    m_relative.add(m_target.format, m_height);
+  }
 
   void add(const part& source) {
     switch (source.type()) {
@@ -93,7 +126,7 @@ class unroller {
 
   void add_paragraph(const new_paragraph& source) {
     new_paragraph copy(source.paragraph, resolved(source), source.column_break);
-    make_relative(copy.paragraph, copy.format.height);
+    m_relative.add(copy.paragraph, copy.format.height);
     push<geom_new_paragraph>(std::move(copy));
   }
 
@@ -106,6 +139,7 @@ class unroller {
   geom_multitext& m_target;
   double m_height;
   const string_size_finder& m_finder;
+  relative_paragraphs m_relative;
 };
 
 }  // namespace
@@ -119,14 +153,13 @@ void make_relative(format::paragraph& paragraph, double height) {
   paragraph.right *= factor;
   paragraph.before *= factor;
   paragraph.after *= factor;
-  for (format::tab_stop& stop : paragraph.tabs) stop.position *= factor;
+  paragraph.tabs = scaled(paragraph.tabs, factor);
 }
 
 geom_multitext to_geom(const multitext& text, double height, const string_size_finder& finder) {
   geom_multitext result;
-  result.format = text.paragraph;
-  make_relative(result.format, height);
   unroller unrolled(result, height, finder);
+  unrolled.open(text.paragraph);
   for (const part& each : text.parts) unrolled.add(each);
   return result;
 }

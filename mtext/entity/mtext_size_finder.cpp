@@ -27,9 +27,29 @@ struct ordered_real {
 
 /// What of a format the measures depend on.
 struct mtext_size_finder::style_key {
+  explicit style_key(const format::string& format)
+      : height{format.height},
+        width_factor{format.width_factor},
+        font(format.font),
+        face(face_of(format)),
+        charset(format.charset),
+        pitch(format.pitch),
+        is_shx(format.is_shx) {}
+
+  static std::uint32_t face_of(const format::string& format) {
+    return format.flags & (format::flag_bold | format::flag_italic);
+  }
+
+  /// Whether this is the key of `format`; saves making one.
+  bool is_of(const format::string& format) const {
+    return height == ordered_real{format.height} && width_factor == ordered_real{format.width_factor} &&
+           font == format.font && face == face_of(format) && charset == format.charset &&
+           pitch == format.pitch && is_shx == format.is_shx;
+  }
+
   ordered_real height;
   ordered_real width_factor;
-  std::u16string font;
+  format::font_name font;
   std::uint32_t face;  ///< bold and italic
   std::uint32_t charset;
   std::uint32_t pitch;
@@ -41,7 +61,8 @@ struct mtext_size_finder::style_key {
 struct mtext_size_finder::measured_style {
   OdGiTextStyle style;
   mtext::font_metrics font;
-  std::unordered_map<std::u16string, string_metrics> texts;
+  std::unordered_map<char16_t, string_metrics> characters;
+  std::unordered_map<std::u16string, string_metrics> texts;  ///< of any other length
 };
 
 namespace {
@@ -84,13 +105,12 @@ mtext_size_finder::mtext_size_finder(const mtext_size_finder& other)
 mtext_size_finder::~mtext_size_finder() = default;
 
 mtext_size_finder::measured_style& mtext_size_finder::style_of(const format::string& format) const {
-  style_key key{format.height,  format.width_factor, format.font,  format.flags & 3U,
-                format.charset, format.pitch,        format.is_shx};
-  auto& entry = m_styles[std::move(key)];
+  if (!m_last || !m_last->first.is_of(format)) m_last = &*m_styles.try_emplace(style_key(format)).first;
+  auto& entry = m_last->second;
   if (!entry) {
     OdGiTextStyle style = text_style(format, *m_database);
     const auto font = metrics_of(*style.font(), format.height);
-    entry = std::make_unique<measured_style>(measured_style{std::move(style), font, {}});
+    entry = std::make_unique<measured_style>(measured_style{std::move(style), font, {}, {}});
   }
   return *entry;
 }
@@ -101,9 +121,13 @@ font_metrics mtext_size_finder::font_metrics(const format::string& format) const
 
 string_metrics mtext_size_finder::measure(const format::string& format, std::u16string_view text) const {
   measured_style& known = style_of(format);
-  const auto [at, is_new] = known.texts.try_emplace(std::u16string(text));
-  if (is_new) at->second = look_at(known.style, known.font, text);
-  return at->second;
+  const auto measured = [&](const auto& entry) {
+    const auto [at, is_new] = entry;
+    if (is_new) at->second = look_at(known.style, known.font, text);
+    return at->second;
+  };
+  return text.size() == 1 ? measured(known.characters.try_emplace(text.front()))
+                          : measured(known.texts.try_emplace(std::u16string(text)));
 }
 
 }  // namespace mtext

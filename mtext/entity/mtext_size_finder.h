@@ -31,7 +31,9 @@ class mtext_size_finder : public string_size_finder {
   measured_style& style_of(const format::string& format) const;
 
   OdSmartPtr<OdDbDatabase> m_database;
-  mutable std::map<style_key, std::unique_ptr<measured_style>> m_styles;
+  using style_map = std::map<style_key, std::unique_ptr<measured_style>>;
+  mutable style_map m_styles;
+  mutable style_map::value_type* m_last = nullptr;  ///< asked for last: the next one is mostly the same
 };
 
 }  // namespace mtext

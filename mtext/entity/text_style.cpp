@@ -16,11 +16,11 @@ std::uint32_t font_descriptor(const format::string& format) {
 
 void set_font(OdGiTextStyle& style, const format::string& format) {
   if (format.is_shx) {
-    style.setFileName(format.font);
+    style.setFileName(format.font.str());
     style.setFontDescriptor(font_descriptor(format));
     return;
   }
-  style.setFont(format.font, format.flags & format::flag_bold, format.flags & format::flag_italic,
+  style.setFont(format.font.str(), format.flags & format::flag_bold, format.flags & format::flag_italic,
                 static_cast<int>(format.charset), static_cast<int>(format.pitch));
 }
 

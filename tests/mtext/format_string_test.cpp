@@ -83,12 +83,12 @@ TEST(Merge, takes_the_fields_that_differ_from_the_second_record) {
            .pitch = 34,
            .flags = flag_italic | flag_overline,
            .charset = 204,
+           .align = 2,
            .is_shx = true,
            .color = {.kind = 0, .index = 1},
            .width_factor = 0.8,
            .oblique = 0.25,
-           .tracking = 1.5,
-           .align = 2};
+           .tracking = 1.5};
 
   auto applied = applied_to(string{.flags = flag_bold}, merge(string{.flags = flag_bold}, b));
 

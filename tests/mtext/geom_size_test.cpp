@@ -81,7 +81,7 @@ TEST(Size, four_hundred_thousand_manual_columns) {
 
 TEST(Size, a_hundred_thousand_stops_for_a_hundred_thousand_tabs) {
   geom_multitext text = repeated(tab({}), 100'000);
-  for (int i = 100'000; i > 0; --i) text.format.tabs.push_back({i * 0.5, 0, u' '});
+  for (int i = 100'000; i > 0; --i) text.format.tabs.edit().push_back({i * 0.5, 0, u' '});
   expect_layouts_to_end(text);
 }
 

@@ -143,11 +143,11 @@ TEST(Serialize, all_codes_stand_in_their_fixed_order) {
                            .pitch = 34,
                            .flags = format::flag_italic | format::flag_underline | format::flag_overline,
                            .charset = 204,
+                           .align = 2,
                            .color = {.kind = 1, .top = 0, .red = 1, .green = 2, .blue = 3},
                            .width_factor = 0.8,
                            .oblique = 0.2617993877991494,
-                           .tracking = 1.2,
-                           .align = 2};
+                           .tracking = 1.2};
 
   EXPECT_EQ(text_of().word(u"a", format).written(),
             u"{\\H2x;\\fArial|b0|i1|c204|p34;\\L\\O\\c197121;\\W0.8;\\Q15;\\T1.2;\\A2;a}");
