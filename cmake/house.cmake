@@ -14,6 +14,8 @@ macro(scribe_house_settings)
   endif()
   # The everyday build: quick to compile, assertions on, line numbers in a trace.
   set(CMAKE_CXX_FLAGS_RELWITHDEBINFO "-O1 -g1")
+  # As distributions build what they ship.
+  set(CMAKE_CXX_FLAGS_RELEASE "-O2 -DNDEBUG")
   find_program(SCRIBE_CCACHE ccache)
   if(SCRIBE_CCACHE)
     set(CMAKE_CXX_COMPILER_LAUNCHER ${SCRIBE_CCACHE})
@@ -22,6 +24,8 @@ macro(scribe_house_settings)
   if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # Both see faults in inlined library code that is right; the sanitizers watch the same ground without the noise.
     add_compile_options(-Wno-array-bounds -Wno-stringop-overflow)
+    # Two more of that kind, that speak up where all is inlined.
+    add_compile_options($<$<CONFIG:Release>:-Wno-restrict> $<$<CONFIG:Release>:-Wno-maybe-uninitialized>)
   endif()
   if(SCRIBE_SANITIZE)
     add_compile_options(-fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
