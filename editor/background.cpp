@@ -37,7 +37,7 @@ void draw_background(const ExMTextEditable& text, const OdCmEntityColor& drawing
   geometry.traits().setTrueColor(fill_color(text.background, drawing_background));
   const double margin = text.background.on ? std::max(text.background.scale - 1.0, 0.0) : 0.0;
   const OdGeMatrix3d to_world = text.frame().text_to_world();
-  for (const text_box& box : column_boxes(text.text(), margin + kColumnMargin)) {
+  for (const text_box& box : column_boxes(text.displayed(), margin + kColumnMargin)) {
     const auto corner = [&](double x, double y) { return to_world * OdGePoint3d{x, y, 0}; };
     geometry.polygon({corner(box.left, box.bottom), corner(box.right, box.bottom), corner(box.right, box.top),
                       corner(box.left, box.top)});

@@ -1,6 +1,7 @@
 #include "editor/caret_draw.h"
 
 #include "editor/editable.h"
+#include "editor/selection_scope.h"
 #include "od/gi/OdGiGeometry.h"
 
 namespace editing {
@@ -12,7 +13,7 @@ constexpr double kHalfBar = 0.1;
 
 void draw_caret(const ExMTextEditable& text, const mtext::marks::selection& caret, OdGiGeometry& geometry) {
   OdGePoint2d top, bottom;
-  text.caretPoints(caret, top, bottom);
+  text.displayedCaret(caret, top, bottom);
   const OdGeMatrix3d to_world = text.frame().text_to_world();
   const OdGePoint3d high = to_world * OdGePoint3d{top.x, top.y, 0};
   const OdGePoint3d low = to_world * OdGePoint3d{bottom.x, bottom.y, 0};
@@ -27,7 +28,7 @@ void draw_caret(const ExMTextEditable& text, const mtext::marks::selection& care
 void draw_carets(const ExMTextEditable& text, OdGiGeometry& geometry) {
   const OdGiSubEntityTraits before = geometry.traits();
   geometry.traits().setColor(OdCmEntityColor::kACIForeground);
-  for (const auto& selection : text.selections())
+  for (const auto& selection : selections_of(text.displayed()))
     if (selection.empty()) draw_caret(text, selection, geometry);
   geometry.traits() = before;
 }

@@ -52,10 +52,20 @@ segment caret_segment(const mtext::geom_multitext& text, const mtext::marks::sel
 
 void ExMTextEditable::caretPoints(const mtext::marks::selection& selection, OdGePoint2d& top,
                                   OdGePoint2d& bottom) const {
+  caretPointsIn(m_text, selection, top, bottom);
+}
+
+void ExMTextEditable::displayedCaret(const mtext::marks::selection& selection, OdGePoint2d& top,
+                                     OdGePoint2d& bottom) const {
+  caretPointsIn(displayed(), selection, top, bottom);
+}
+
+void ExMTextEditable::caretPointsIn(const mtext::geom_multitext& text,
+                                    const mtext::marks::selection& selection, OdGePoint2d& top,
+                                    OdGePoint2d& bottom) const {
   const segment found =
-      m_text.parts.empty()
-          ? in_empty_text(m_text, m_finder->font_metrics(insertionFormat(selection)), m_frame)
-          : caret_segment(m_text, selection);
+      text.parts.empty() ? in_empty_text(text, m_finder->font_metrics(insertionFormat(selection)), m_frame)
+                         : caret_segment(text, selection);
   top = found.top;
   bottom = found.bottom;
 }

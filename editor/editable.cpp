@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "editor/letters_settings.h"
+#include "od/db/OdDbDatabase.h"
 
 ExMTextEditable::ExMTextEditable() : m_letters(editing::session_letters()) {}
 ExMTextEditable::~ExMTextEditable() = default;

@@ -7,6 +7,7 @@
 
 #include "editor/mtext_editor.h"
 #include "editor/text_frame.h"
+#include "host/composer.h"
 #include "mtext/geom_multitext.h"
 #include "mtext/letters_dictionary.h"
 #include "mtext/parse.h"
@@ -46,7 +47,8 @@ class ExMTextEditable : public OdDbEntity {
   /// Reads the contents into the text, marks its lists and lays it out. The caret stands at 0, behind a label
   /// that stands there. The lists are counted by the first `endOfEdit`.
   void load();
-  /// What measures; kept for the session. Without one `load` measures with the fonts of the database.
+  /// What measures; kept for the session. Without one `load` measures with the fonts of the database, or those
+  /// of an empty drawing.
   void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
   const mtext::string_size_finder& finder() const { return *m_finder; }
   /// The alphabets of lettered lists, for the next `load`. A new text has those of the application's
@@ -137,6 +139,16 @@ class ExMTextEditable : public OdDbEntity {
 
   /// Ends of the caret of `selection` in text coordinates.
   void caretPoints(const mtext::marks::selection& selection, OdGePoint2d& top, OdGePoint2d& bottom) const;
+
+  // ---- editable_composition.cpp
+
+  /// Shows at every selection, in its place, what an input method composes. It is no part of the text: what
+  /// is committed has to be typed.
+  void compose(const HostComposition& composition);
+  /// The text as it is shown: with what is being composed.
+  const mtext::geom_multitext& displayed() const { return m_composed ? *m_composed : m_text; }
+  /// As `caretPoints`, for a selection of the text as it is shown.
+  void displayedCaret(const mtext::marks::selection& selection, OdGePoint2d& top, OdGePoint2d& bottom) const;
 
   // ---- editable_typing.cpp
 
@@ -274,12 +286,22 @@ class ExMTextEditable : public OdDbEntity {
                                                                         const mtext::format::string& format)>;
   /// Rebuilds what each selection holds and selects the outcome.
   void rebuildSelections(const rebuilding& make);
+  void caretPointsIn(const mtext::geom_multitext& text, const mtext::marks::selection& selection,
+                     OdGePoint2d& top, OdGePoint2d& bottom) const;
+  /// Inserts what is composed into a copy of the text as it is now.
+  void displayComposition();
   /// One line up (`step` -1) or down (+1).
   void moveToLine(int step, bool shift, bool add_caret);
 
   OdString m_contents;
   mtext::fields_map m_fields;
   mtext::geom_multitext m_text;
+  /// The entity's own drawing, or an empty one for the fonts of an entity without any.
+  OdSmartPtr<OdDbDatabase> drawingWithFonts() const;
+
+  mutable OdSmartPtr<OdDbDatabase> m_own_drawing;
+  HostComposition m_composition;
+  std::optional<mtext::geom_multitext> m_composed;  ///< the text as shown, while something is composed
   text_frame m_frame;
   std::shared_ptr<const mtext::string_size_finder> m_finder;
   OdDbObjectId m_style;

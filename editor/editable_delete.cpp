@@ -1,3 +1,4 @@
+#include "editor/caret_steps.h"
 #include "editor/editable.h"
 #include "editor/part_kinds.h"
 #include "editor/selection_scope.h"
@@ -24,10 +25,10 @@ mtext::format::paragraph* paragraph_beginning_at(mtext::geom_multitext& text, st
   return begins ? &mtext::paragraph_at(text, at) : nullptr;
 }
 
-/// What Backspace at a caret erases: a whole word, a whole solid, or one part.
+/// What Backspace at a caret erases: a whole word, a whole solid, or one character.
 mark range_before(const mtext::geom_multitext& text, std::size_t at, bool word) {
   if (const auto* solid = editing::solid_ending_at(text, at)) return {solid->begin, solid->end};
-  return {word ? editing::word_start(text, at) : at - 1, at};
+  return {word ? editing::word_start(text, at) : editing::step_left(text, at), at};
 }
 
 }  // namespace
@@ -60,7 +61,7 @@ void ExMTextEditable::deleteForward() {
     if (!range->empty()) {
       eraseRange(*range);
     } else if (range->begin < m_text.parts.size()) {
-      eraseRange({range->begin, range->begin + 1});
+      eraseRange({range->begin, editing::step_right(m_text, range->begin)});
       // What is left of a field whose first character went goes too; so does a field that stood behind the
       // character, which is deliberate: Delete in front of a field takes it whole.
       if (const auto* solid = editing::solid_beginning_at(m_text, range->begin))

@@ -9,7 +9,7 @@ void ExMTextEditable::drawGeometry(OdGiWorldDraw& draw) const {
   draw.subEntityTraits().setLayer(layer());
   geometry.pushModelTransform(m_frame.text_to_world());
   mtext::draw_parts(
-      m_text, geometry, *database(),
+      displayed(), geometry, *drawingWithFonts(),
       {.text_color = color(), .layer_color = draw.context().layerColor(layer()), .draft = m_draft});
   geometry.popModelTransform();
 }

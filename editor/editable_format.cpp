@@ -1,6 +1,7 @@
 #include "editor/editable.h"
 #include "editor/selection_scope.h"
 #include "mtext/format_range.h"
+#include "mtext/surrogate_pair.h"
 
 namespace {
 
@@ -14,6 +15,7 @@ mtext::format::string_partial resolved(mtext::format::string_partial change, dou
 
 void ExMTextEditable::remeasure(std::size_t first, std::size_t last) {
   for (std::size_t at = first; at < last; ++at) m_text.parts[at].update(*m_finder);
+  for (std::size_t at = first; at <= last; ++at) mtext::measure_pair(m_text.parts, at, *m_finder);
 }
 
 void ExMTextEditable::applyFormat(const mtext::format::string_partial& change) {

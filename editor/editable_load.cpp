@@ -21,7 +21,7 @@ void ExMTextEditable::setLayoutInfo(const mtext::convert_info& info) {
 }
 
 void ExMTextEditable::load() {
-  if (!m_finder) m_finder = std::make_shared<mtext::mtext_size_finder>(OdDbDatabasePtr(database()));
+  if (!m_finder) m_finder = std::make_shared<mtext::mtext_size_finder>(drawingWithFonts());
   mtext::multitext logical;
   mtext::parse(m_contents.str(), m_default_format, logical, m_fields);
   mtext::geom_multitext text = mtext::to_geom(logical, textHeight(), *m_finder);
@@ -33,6 +33,12 @@ void ExMTextEditable::load() {
   m_numbering_dirty = true;
   layOut();
   m_selections_before = selections();
+}
+
+OdDbDatabasePtr ExMTextEditable::drawingWithFonts() const {
+  if (database()) return OdDbDatabasePtr(database());
+  if (!m_own_drawing) m_own_drawing = OdDbDatabase::createEmpty();
+  return m_own_drawing;
 }
 
 OdString ExMTextEditable::contentsText() const {

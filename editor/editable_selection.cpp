@@ -1,3 +1,4 @@
+#include "editor/caret_steps.h"
 #include "editor/editable.h"
 #include "editor/line_lookup.h"
 #include "editor/part_kinds.h"
@@ -31,7 +32,7 @@ void ExMTextEditable::moveLeft(bool shift, bool word) {
     else if (!shift && !range.empty())
       to = range.begin;
     else if (to > 0)
-      --to;
+      to = editing::step_left(m_text, to);
     take_caret(range, editing::stop_before(m_text, to), shift);
   });
 }
@@ -44,7 +45,7 @@ void ExMTextEditable::moveRight(bool shift, bool word) {
     else if (!shift && !range.empty())
       to = range.end;
     else if (to < m_text.parts.size())
-      ++to;
+      to = editing::step_right(m_text, to);
     take_caret(range, editing::stop_behind(m_text, to), shift);
   });
 }

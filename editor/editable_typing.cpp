@@ -3,6 +3,7 @@
 #include "editor/editable.h"
 #include "editor/selection_scope.h"
 #include "mtext/format_at.h"
+#include "mtext/surrogate_pair.h"
 #include "mtext/to_geom.h"
 
 mtext::format::string ExMTextEditable::insertionFormat(const mtext::marks::selection& selection) const {
@@ -11,14 +12,22 @@ mtext::format::string ExMTextEditable::insertionFormat(const mtext::marks::selec
 }
 
 void ExMTextEditable::eraseRange(const mtext::marks::mark& range) {
-  if (!range.empty()) m_text.erase(range, /*drop_empty=*/true);
+  if (range.empty()) return;
+  const std::size_t begin = range.begin;
+  m_text.erase(range, /*drop_empty=*/true);
+  mtext::measure_pair(m_text.parts, begin, *m_finder);
 }
 
 void ExMTextEditable::replaceSelections(const insertion& make) {
   for (mtext::marks::selection* range : editing::selection_marks(m_text)) {
     const mtext::format::string format = insertionFormat(*range);
     eraseRange(*range);
-    m_text.insert(range->begin, make(format, range->begin));
+    const std::size_t begin = range->begin;
+    const auto made = make(format, begin);
+    m_text.insert(begin, made);
+    // Halves that met where the new text begins and ends.
+    mtext::measure_pair(m_text.parts, begin, *m_finder);
+    mtext::measure_pair(m_text.parts, begin + made.parts.size(), *m_finder);
     range->caret_at_begin = range->at_line_end = false;
   }
   m_numbering_dirty = m_layout_dirty = true;

@@ -43,5 +43,6 @@ void ExMTextEditable::endOfEdit(bool relayout) {
     if (m_finder && editing::clean_labels(m_text, *m_finder)) m_layout_dirty = true;
     if (m_layout_dirty) layOut();
   }
+  if (m_composed) displayComposition();
   if (moved) notifyWatchers();
 }

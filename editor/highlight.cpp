@@ -73,8 +73,8 @@ std::vector<text_box> field_boxes(const mtext::geom_multitext& text) {
 
 void draw_highlights(const ExMTextEditable& text, OdGiGeometry& geometry) {
   const OdGeMatrix3d to_world = text.frame().text_to_world();
-  draw_boxes(selection_boxes(text.text()), OdCmEntityColor(0, 100, 200), to_world, geometry);
-  draw_boxes(field_boxes(text.text()), OdCmEntityColor(255, 255, 255), to_world, geometry);
+  draw_boxes(selection_boxes(text.displayed()), OdCmEntityColor(0, 100, 200), to_world, geometry);
+  draw_boxes(field_boxes(text.displayed()), OdCmEntityColor(255, 255, 255), to_world, geometry);
 }
 
 }  // namespace editing

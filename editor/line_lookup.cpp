@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/caret_steps.h"
 #include "editor/part_kinds.h"
 
 namespace editing {
@@ -24,13 +25,14 @@ std::size_t line_of(const mtext::geom_multitext& text, const mtext::marks::selec
 std::size_t position_in_line(const mtext::geom_multitext& text, double x, std::size_t line) {
   const auto& record = text.lines.at(line);
   for (std::size_t at = record.first; at < record.last; ++at)
-    if (x < text.parts[at].x + text.parts[at].size.advance / 2) return at;
+    if (x < text.parts[at].x + text.parts[at].size.advance / 2) return off_pair(text, at);
   const bool ends_in_break = record.last > record.first && is_break(text.parts[record.last - 1]);
   return ends_in_break ? record.last - 1 : record.last;
 }
 
 mtext::marks::selection caret_at_point(const mtext::geom_multitext& text, double x, double y) {
-  const auto hit = text.position_at(x, y);
+  auto hit = text.position_at(x, y);
+  hit.at = off_pair(text, hit.at);
   const bool other_line = hit.at > 0 && line_at(text, hit.at) != hit.line;
   if (!other_line) return mtext::marks::selection(hit.at);
   if (is_break(text.parts[hit.at - 1])) return mtext::marks::selection(hit.at - 1);

@@ -19,6 +19,16 @@ std::optional<OdGePoint2d> point_in_text(smart_edit& session, const OdGePoint3d&
 }  // namespace
 
 bool session_filter::filterMessage(const HostWindowMessage& message, const OdGePoint3d& point) {
+  const unsigned steps_before = m_session.undo().undo_count();
+  try {
+    return handle(message, point);
+  } catch (const std::exception& error) {
+    m_session.recover(steps_before, error);
+    return true;
+  }
+}
+
+bool session_filter::handle(const HostWindowMessage& message, const OdGePoint3d& point) {
   switch (message.number) {
     case WM_SETCURSOR:
       setCursor(point);
@@ -55,6 +65,7 @@ bool session_filter::filterMessage(const HostWindowMessage& message, const OdGeP
 }
 
 void session_filter::press(const HostWindowMessage& message, const OdGePoint3d& point) {
+  m_session.typed().forget();
   if (!m_session.textPoint(point)) return;
   const auto at = point_in_text(m_session, point);
   if (!at) return m_session.exitAt(point);

@@ -4,7 +4,8 @@
 
 class smart_edit;
 
-/// The door through which all input of a session comes. While it stands, no key reaches the command line.
+/// The door through which all input of a session comes. While it stands, no key reaches the command line, and
+/// no error of a handler ends the session.
 class session_filter : public HostEdMessageFilter {
  public:
   /// The session owns the filter.
@@ -13,6 +14,7 @@ class session_filter : public HostEdMessageFilter {
   bool filterMessage(const HostWindowMessage& message, const OdGePoint3d& point) override;
 
  private:
+  bool handle(const HostWindowMessage& message, const OdGePoint3d& point);
   void press(const HostWindowMessage& message, const OdGePoint3d& point);
   void drag(const OdGePoint3d& point);
   void release();

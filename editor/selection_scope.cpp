@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/caret_steps.h"
 #include "mtext/marks.h"
 
 namespace editing {
@@ -28,6 +29,7 @@ selection_scope::selection_scope(mtext::geom_multitext& text)
     : selections(editing::selections_of(text)), m_text(text) {}
 
 selection_scope::~selection_scope() {
+  for (auto& range : selections) editing::leave_pairs(m_text, range);
   mtext::marks::set_selections(selections, m_text.marks);
   mtext::marks::merge_selections(m_text.marks);
 }

@@ -5,7 +5,8 @@
 #include "mtext/geom_multitext.h"
 
 /// The selections of a text, taken out for a change and written back when the scope ends.
-/// Writing back merges what overlaps and moves every end out of the solids, so that no operation has to.
+/// Writing back merges what overlaps and moves every end out of the solids and of characters that are two
+/// parts, so that no operation has to.
 class selection_scope {
  public:
   explicit selection_scope(mtext::geom_multitext& text);

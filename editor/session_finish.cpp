@@ -43,6 +43,7 @@ void smart_edit::write(OdDbMText& target) {
   // A text without a height was laid out with the least one, and what was typed has to stay as it was seen.
   if (text_changed || m_editable->textHeight() != m_origin.info.height)
     target.setTextHeight(m_editable->textHeight());
+  if (m_editable->normal() != m_origin.frame.normal) target.setNormal(m_editable->normal());
   if (m_editable->attachment() == m_origin.frame.attachment &&
       m_editable->frame().location == m_origin.frame.location)
     return;
@@ -52,6 +53,7 @@ void smart_edit::write(OdDbMText& target) {
 
 void smart_edit::write(OdDbText& target) {
   if (!textChanged()) return;
+  if (m_editable->normal() != m_origin.frame.normal) target.setNormal(m_editable->normal());
   target.setTextString(m_editable->lineCount() > 0 ? OdString(m_editable->lineText(0)) : OdString());
   if (!target.isDefaultAlignment()) target.adjustAlignment();
 }
@@ -60,7 +62,13 @@ bool smart_edit::finishEdit(bool accept, bool force) {
   if (!m_source_text && !m_source_line) return accept;
   if (!force && m_editable->text().parts.empty()) accept = false;
   if (accept && m_source_text) write(*m_source_text);
-  if (accept && m_source_line) write(*m_source_line);
+  if (m_source_line && !m_had_text) {
+    // Of a new text the line that is being typed is given up with it; those above it were finished by Enter.
+    const std::size_t lines = m_editable->lineCount();
+    writeLines(*m_source_line, accept || lines == 0 ? lines : lines - 1);
+  } else if (accept && m_source_line) {
+    write(*m_source_line);
+  }
   showSource();
   return accept;
 }

@@ -26,6 +26,7 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
   const key_row* row = find_key(message.code, held, session);
   if (row) {
     session.mouse().forget();
+    session.typed().forget();
     perform(session, *row, held, message.repeat);
   }
   const bool handled = row && row->effect != key_effect::passes;
@@ -40,9 +41,11 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
 
 void handle_character(smart_edit& session, const HostWindowMessage& message) {
   const held_keys held = keys_held(message);
-  const auto character = static_cast<char16_t>(message.code);
-  const bool is_tab = character == u'\t';
+  const auto unit = static_cast<char16_t>(message.code);
+  const bool is_tab = unit == u'\t';
   if (session.isKeyDown() || held.ctrl || (is_tab && session.isSingleLine())) return;
+  const std::u16string character = session.typed().add(unit);
+  if (character.empty()) return;
   const ExMTextEditablePtr text(&session.editable());
   session.mouse().forget();
   session.pushUndoStep(kUndoType);
@@ -50,7 +53,7 @@ void handle_character(smart_edit& session, const HostWindowMessage& message) {
     if (is_tab)
       text->insertTab(held.shift);
     else
-      text->insertChar(character);
+      text->insertText(character);
   }
   session.repaint(redraw_request::kText);
   text->endOfEdit(/*relayout=*/true);

@@ -29,6 +29,7 @@ smart_edit::smart_edit(EditHost& host)
   m_view_policy.begin(host.view().gsView());
   m_editable->addWatcher(*this);
   m_host.messages().pushFilter(m_filter, kFilterLevel);
+  if (HostWindow* drawing_window = window()) drawing_window->setComposer(&m_composer);
   if (HostApplication* application = host::application())
     m_blink.emplace(application->ticks(), [this] {
       m_host.view().overlay().invalidate(m_layers.caret());
@@ -37,6 +38,8 @@ smart_edit::smart_edit(EditHost& host)
 }
 
 smart_edit::~smart_edit() {
+  HostWindow* const drawing_window = window();
+  if (drawing_window && drawing_window->composer() == &m_composer) drawing_window->setComposer(nullptr);
   m_blink.reset();
   m_host.messages().popFilter(m_filter);
   m_editable->removeWatcher(*this);
@@ -76,6 +79,10 @@ std::optional<OdGePoint2d> smart_edit::textPoint(const OdGePoint3d& world) const
   OdGePoint3d at;
   if (!sight.intersectWith(plane, at)) return std::nullopt;
   return plane.paramOf(at);
+}
+
+OdGePoint3d smart_edit::worldPoint(const OdGePoint2d& at) const {
+  return m_view_policy.edit_transform() * (m_editable->frame().text_to_world() * OdGePoint3d{at.x, at.y, 0});
 }
 
 void smart_edit::onChanged() {

@@ -10,6 +10,8 @@
 #include "editor/message_filter.h"
 #include "editor/mouse.h"
 #include "editor/redraw.h"
+#include "editor/session_composer.h"
+#include "editor/typed_characters.h"
 #include "editor/undo_stack.h"
 #include "editor/view_policy.h"
 #include "host/edit_host.h"
@@ -54,6 +56,16 @@ class smart_edit : public MTextEditor {
   /// end; without an entity returns `accept`.
   bool finishEdit(bool accept, bool force);
 
+  /// The lines of a new single-line text, each an entity in the drawing, once the session has ended.
+  const std::vector<OdDbObjectId>& writtenLines() const { return m_written_lines; }
+
+  // ---- session_recovery.cpp
+
+  /// A message broke off its handler. The text goes back to the state before it if a step was stored since
+  /// there were `steps_before`; in the middle of a run it stays as it is, as long as it is sound. The reason is
+  /// told in one sentence, and the session goes on.
+  void recover(unsigned steps_before, const std::exception& error);
+
   void pushUndoStep(int kind);
   void undoStep();
   void redoStep();
@@ -72,12 +84,15 @@ class smart_edit : public MTextEditor {
   /// The point of the text's plane that is seen at a world point, in text coordinates; none when the view
   /// looks along the plane.
   std::optional<OdGePoint2d> textPoint(const OdGePoint3d& world) const;
+  /// Where a point in text coordinates is seen, in the world.
+  OdGePoint3d worldPoint(const OdGePoint2d& at) const;
 
   ExMTextEditable& editable() { return *m_editable; }
   const ExMTextEditable& editable() const { return *m_editable; }
   const undo_stack& undo() const { return m_undo; }
   undo_stack& undo() { return m_undo; }
   text_mouse& mouse() { return m_mouse; }
+  typed_characters& typed() { return m_typed; }
   /// Ruler and handles; open in a multi-line session alone.
   const gadget_tree& gadgets() const { return m_gadgets; }
   void openGadgets();
@@ -110,6 +125,10 @@ class smart_edit : public MTextEditor {
   void write(OdDbMText& target);
   void writeColumns(OdDbMText& target);
   void write(OdDbText& target);
+  // ---- session_lines.cpp
+
+  /// Makes an entity of each of the first `count` lines that is not empty, after the example of `source`.
+  void writeLines(const OdDbText& source, std::size_t count);
   // ---- session_view.cpp
 
   /// The text as the view policy looks at it.
@@ -124,16 +143,19 @@ class smart_edit : public MTextEditor {
   ExMTextEditablePtr m_editable;
   undo_stack m_undo;
   text_mouse m_mouse;
+  typed_characters m_typed;
   gadget_tree m_gadgets;
   gadget_mouse m_gadget_mouse{*this};
   view_policy m_view_policy;
   session_layers m_layers;
   redraw_request m_redraw;
   session_filter m_filter;
+  session_composer m_composer{*this};
   std::optional<caret_blink> m_blink;
   OdDbMTextPtr m_source_text;
   OdDbTextPtr m_source_line;
   origin m_origin;
+  std::vector<OdDbObjectId> m_written_lines;
   std::optional<OdGePoint3d> m_exit_point;
   bool m_single_line = false;
   bool m_had_text = false;

@@ -49,6 +49,14 @@ bool undo_stack::redo(ExMTextEditable& text) {
   return step_between(m_redo, m_undo, text);
 }
 
+void undo_stack::take_back(ExMTextEditable& text) {
+  m_run_kind = kUndoNone;
+  if (m_undo.isEmpty()) return;
+  const UndoSnapshot step = m_undo.last();
+  m_undo.removeLast();
+  restore(step, text);
+}
+
 void undo_stack::start_move() {
   m_run_kind = kUndoNone;
   if (m_undo.isEmpty()) m_redo.clear();

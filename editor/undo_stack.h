@@ -40,6 +40,9 @@ class undo_stack {
   bool undo(ExMTextEditable& text);
   /// The mirror of `undo`.
   bool redo(ExMTextEditable& text);
+  /// Goes back to the newest step and drops it, as if the edit behind it had never begun. Nothing happens if
+  /// there is none.
+  void take_back(ExMTextEditable& text);
   /// A caret key ends the run, and drops redo if there is nothing to undo.
   void start_move();
 

@@ -48,10 +48,3 @@ TEST(Delete, deleting_a_field_s_first_character_deletes_all_of_it_and_keeps_the_
 }
 
 TEST(Delete, delete_at_a_paragraph_end_joins_the_paragraphs) { EXPECT_EQ(edit("ab|¶cd", "Delete"), "ab|cd"); }
-
-TEST(Delete, half_a_surrogate_pair_can_be_deleted_without_harm) {
-  edited_text text("a|b");
-  text.send({.number = WM_CHAR, .code = 0xD83D});
-  text.send({.number = WM_CHAR, .code = 0xDE00});
-  EXPECT_EQ(text.keys("Backspace Backspace").drawn(), "a|b");
-}

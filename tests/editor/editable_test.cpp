@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "od/db/OdDbMText.h"
 #include "od/db/OdDbMemoryDwgFiler.h"
 #include "od/db/OdDbMemoryDxfFiler.h"
 #include "od/gi/OdGiRecorder.h"
@@ -22,11 +23,13 @@ struct : OdGiDefaultContext {
 
 TEST(Editable, its_class_record_names_it) {
   const OdRxClass* record = ExMTextEditable::desc();
+  EXPECT_EQ(odrxFindClass(u"ExMTextEditable"), record);
   EXPECT_EQ(record->name(), OdString(u"ExMTextEditable"));
   EXPECT_EQ(record->dxfName(), OdString(u"EXMTEXTEDITABLE"));
   EXPECT_EQ(record->appName(), OdString(u"MTextEdit|Description: edit-dialog"));
   EXPECT_EQ(record->myParent(), OdDbEntity::desc());
   EXPECT_EQ(record->getClassVersion(), 23);
+  EXPECT_EQ(record->getMaintenanceVersion(), 0);
   EXPECT_EQ(record->proxyFlags(), 3071U);
   EXPECT_EQ(new_editable()->isA(), record);
 }
@@ -41,6 +44,47 @@ TEST(Editable, a_dwg_round_trip_keeps_contents_and_text_height_and_rebuilds_the_
   EXPECT_EQ(read->contentsText(), text.text().contentsText());
   EXPECT_EQ(read->textHeight(), 2.5);
   EXPECT_EQ(read->lineCount(), 2U);
+}
+
+TEST(Editable, reading_takes_the_place_of_the_text_before) {
+  auto text = edited_text::on_codes("first");
+  OdDbMemoryDwgFiler filer;
+  edited_text::on_codes("second\\Pline").text().dwgOut(&filer);
+  filer.rewind();
+  text.text().dwgIn(&filer);
+  EXPECT_EQ(text.text().contents(), OdString(u"second\\Pline"));
+  EXPECT_EQ(text.drawn(), "|second¶line");
+}
+
+TEST(Editable, is_found_by_its_own_class_and_by_those_above_it_and_by_no_other) {
+  const auto text = new_editable();
+  EXPECT_EQ(text->queryX(ExMTextEditable::desc()), text.get());
+  EXPECT_EQ(text->queryX(OdDbEntity::desc()), text.get());
+  EXPECT_EQ(text->queryX(OdDbMText::desc()), nullptr);
+}
+
+TEST(Editable, writes_its_marker_its_contents_and_its_height_to_dxf) {
+  auto text = edited_text::on_codes("ab");
+  OdDbMemoryDxfFiler filer;
+  text.text().dxfOut(&filer);
+  EXPECT_EQ(filer.groupCount(), 3U);
+  filer.rewind();
+  ASSERT_TRUE(filer.atSubclassData(u"ExMTextEditable"));
+  EXPECT_EQ(filer.nextItem(), 71);
+  EXPECT_EQ(filer.rdString(), OdString(u"ab"));
+  EXPECT_EQ(filer.nextItem(), 74);
+  EXPECT_EQ(filer.rdDouble(), 2.5);
+}
+
+TEST(Editable, without_a_drawing_is_measured_and_drawn_with_fonts_all_the_same) {
+  const auto text = ExMTextEditable::createObject();
+  text->setContents(u"ab\\Pc");
+  text->load();
+  EXPECT_EQ(text->lineCount(), 2U);
+  EXPECT_GT(text->text().parts[0].size.advance, 0);
+  OdGiRecorder recorder;
+  recorder.record(*text);
+  EXPECT_FALSE(recorder.primitives().empty());
 }
 
 TEST(Editable, a_dxf_round_trip_keeps_contents_and_text_height) {

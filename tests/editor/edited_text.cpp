@@ -139,10 +139,12 @@ void edited_text::key(std::string_view name) {
   }
   m_application->keyState().hold(held);
   const auto named = named_keys().find(name);
-  const char16_t character = name == "Space" ? u' ' : name == "Tab" ? u'\t' : odToUtf16(name)[0];
+  const std::u16string units = name == "Space" ? u" " : name == "Tab" ? u"\t" : odToUtf16(name);
+  const char16_t character = units[0];
   const unsigned code = named == named_keys().end() ? key_of(character) : named->second;
   send({.number = WM_KEYDOWN, .code = code, .repeat = repeat});
-  if (named == named_keys().end()) send({.number = WM_CHAR, .code = character, .repeat = repeat});
+  if (named == named_keys().end())
+    for (const char16_t unit : units) send({.number = WM_CHAR, .code = unit, .repeat = repeat});
   send({.number = WM_KEYUP, .code = code});
   m_application->keyState().hold({});
 }
