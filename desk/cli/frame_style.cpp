@@ -98,6 +98,8 @@ json parsed(const std::filesystem::path& file) {
     // The byte that the parser names is the one behind the last that it took.
     const std::size_t byte = error.byte == 0 ? 0 : error.byte - 1;
     throw FileError(inputName(file), placeIn(text, byte) + " is no JSON.");
+  } catch (const json::out_of_range&) {
+    throw FileError(inputName(file), "it holds a number beyond all numbers.");
   }
 }
 

@@ -188,6 +188,7 @@ TEST(MTextStyle, that_is_wrong_ends_with_3_and_a_sentence_that_names_line_or_mem
       {"{\n  \"height\": 5,\n  \"width\" 3\n}", "style.json: line 3, column 11 is no JSON."},
       {"", "style.json: line 1, column 1 is no JSON."},
       {"[1]", "style.json: a style must be one JSON object."},
+      {R"({"height": 1e999})", "style.json: it holds a number beyond all numbers."},
       {R"({"colour": 1})", "style.json: \"colour\" is no member of a style."},
       {R"({"height": 0})", "style.json: \"height\" must be a number from 1e-06 to 1e+09."},
       {R"({"height": "tall"})", "style.json: \"height\" must be a number from 1e-06 to 1e+09."},
