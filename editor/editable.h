@@ -90,6 +90,15 @@ class ExMTextEditable : public OdDbEntity {
   OdGeExtents3d textExtents() const;
   text_background background;
 
+  // ---- editable_columns.cpp: what the gadgets change
+
+  /// Takes other columns and lays out; the insertion point keeps its place in the drawing.
+  void setColumns(const mtext::column_settings& columns);
+  /// The formats of the paragraphs that the selections touch, and of all, in text order. They stay the
+  /// text's, which has to be laid out when one has changed.
+  std::vector<mtext::format::paragraph*> touchedParagraphs();
+  std::vector<mtext::format::paragraph*> allParagraphs();
+
   // ---- editable_lines.cpp: lines as texts of their own
 
   std::size_t lineCount() const { return m_text.lines.size(); }
@@ -103,6 +112,7 @@ class ExMTextEditable : public OdDbEntity {
 
   /// In draft mode `worldDraw` draws the boxes of letters and stacks alone.
   void setDraft(bool draft) { m_draft = draft; }
+  bool isDraft() const { return m_draft; }
 
   // ---- editable_filing.cpp
 
