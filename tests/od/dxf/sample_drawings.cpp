@@ -14,13 +14,20 @@ void add_drawings(const fs::path& folder, std::vector<fs::path>& found) {
   }
 }
 
+/// Once, however many tests ask.
+void tell_of_absence() {
+  static bool told = false;
+  if (!told) std::cout << "The drawings of ../shared/data are absent; going on without them.\n";
+  told = true;
+}
+
 }  // namespace
 
 std::vector<fs::path> sample_drawings() {
   std::vector<fs::path> found;
   const fs::path source(SCRIBE_SOURCE_DIR);
   add_drawings(source.parent_path() / "shared" / "data", found);
-  if (found.empty()) std::cout << "The drawings of ../shared/data are absent; going on without them.\n";
+  if (found.empty()) tell_of_absence();
   add_drawings(source / "samples", found);
   std::ranges::sort(found);
   return found;
