@@ -13,6 +13,7 @@ DENSITIES = ("plain", "typical", "dense")
 WORK_WITH_PEERS = ("measure and lay out", "insert a character and lay out", "find a position", "memory")
 WORK = ("read", "write", "measure", "lay out", "measure and lay out", "find a position", "insert a character and lay out",
         "copy for undo", "memory")
+AT_ONE_PLACE = ("find a position", "insert a character and lay out")
 HEADINGS = ("work", "text", "letters", "scribe", "per letter", *PEERS, "memcpy", "of nearest peer")
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 # Fonts are scaled a little differently by each; more than this would be another amount of work.
@@ -53,7 +54,7 @@ def memory(value):
 
 
 def per_letter(work, own, letters):
-    if work == "find a position":
+    if work in AT_ONE_PLACE:
         return "-"
     return amount(own / letters, ((1, "B" if work == "memory" else "ns"),))
 
