@@ -1,10 +1,13 @@
 #include "mtext/dispose.h"
 
+#include <algorithm>
+
 #include "mtext/attach_vertically.h"
 #include "mtext/column_sequence.h"
 #include "mtext/layout_line.h"
 #include "mtext/line_pitch.h"
 #include "mtext/line_state.h"
+#include "mtext/place_segment.h"
 
 namespace mtext {
 namespace {
@@ -19,12 +22,21 @@ class disposer {
 
   void run() {
     while (m_cursor.next < m_text.parts.size()) add_line();
+    end();
+  }
+
+  /// The same for a text in one column whose lines were `broken`, before an edit.
+  void run_again(const std::vector<geom_line>& broken, const text_edit& edit);
+
+ private:
+  void end() {
     if (!m_text.parts.empty() && is_terminator(m_text.parts.back())) add_empty_line();
     push_column(m_text.parts.size());
   }
 
- private:
   void add_line();
+  void keep_line(const geom_line& broken, std::size_t first, std::size_t last);
+  void leave_line(double next_top, double line_bottom);
   bool needs_next_column(double line_bottom) const;
   void place_parts(std::size_t first, double by);
   void push_line(const string_metrics& size, std::size_t first);
@@ -81,11 +93,70 @@ void disposer::add_line() {
     push_column(m_cursor.next);
     next_top = 0;
   }
+  leave_line(next_top, line_bottom);
+}
+
+void disposer::leave_line(double next_top, double line_bottom) {
   m_bottom = line_bottom;
   if (last_part().type() == part_new_paragraph && m_cursor.paragraph_begin != m_cursor.next) {
     enter_paragraph(m_text, m_cursor);
   }
   m_top = next_top;
+}
+
+/// Takes the parts from `first` to `last` as the line that they were when it was broken. Its parts are placed
+/// anew only if the line moved.
+void disposer::keep_line(const geom_line& broken, std::size_t first, std::size_t last) {
+  const line_pitch pitch =
+      pitch_of_line(effective_spacing(m_cursor.paragraph, m_text.info), broken.size, m_text.info);
+  m_cursor.next = last;
+  m_baseline = m_top - pitch.rise;
+  if (m_baseline != broken.y) {
+    line_state state;
+    state.size = broken.size;
+    state.first = first;
+    state.next = last;
+    place_vertically({m_text.parts, m_text.info, m_cursor.paragraph}, state);
+    const double by = m_baseline + broken.size.above + broken.size.head;
+    for (std::size_t i = first; i < last; ++i) m_text.parts[i].y += by;
+  }
+  push_line(broken.size, first);
+  const double next_top = m_top - pitch.pitch;
+  leave_line(next_top, next_top);
+}
+
+void disposer::run_again(const std::vector<geom_line>& broken, const text_edit& edit) {
+  const std::size_t size_before = broken.empty() ? 0 : broken.back().last;
+  const std::size_t size = m_text.parts.size();
+  const auto is_behind = [](std::size_t part, const geom_line& line) { return part < line.first; };
+  auto line = std::upper_bound(broken.begin(), broken.end(), edit.before, is_behind);
+  // A line was broken in sight of the first word of the next one, and an edit at its start may reach back
+  // into the line before.
+  const auto first_changed = line - std::min<std::ptrdiff_t>(line - broken.begin(), 3);
+  for (line = broken.begin(); line != first_changed; ++line) keep_line(*line, line->first, line->last);
+
+  // Where a line begins in the unchanged rest that began a line before, and as the same paragraph's, the
+  // lines are those of before. A line that begins with a tab is not: the line in front of it tried the tab,
+  // and has moved it.
+  const std::size_t rest = size - edit.behind;
+  bool met = false;
+  while (m_cursor.next < size) {
+    if (!met && m_cursor.next > rest) {
+      const std::size_t before = m_cursor.next + size_before - size;
+      line = std::lower_bound(line, broken.end(), before,
+                              [](const geom_line& each, std::size_t part) { return each.first < part; });
+      met = line != broken.end() && line->first == before && line->last > before &&
+            (!edit.paragraph_ends || m_cursor.paragraph_begin > rest) &&
+            m_text.parts[m_cursor.next].type() != part_tab;
+    }
+    if (!met) {
+      add_line();
+      continue;
+    }
+    keep_line(*line, m_cursor.next, line->last + size - size_before);
+    ++line;
+  }
+  end();
 }
 
 /// The first line of a column stays in it, however high it is.
@@ -172,6 +243,17 @@ void dispose(geom_multitext& text) {
   text.columns.clear();
   disposer(text).run();
   attach_vertically(text);
+}
+
+void dispose(geom_multitext& text, const text_edit& edit) {
+  const bool hangs_from_top = text.info.vertical == 0;
+  const bool in_one_column = !column_sequence(text.info.columns).exists(1);
+  if (!hangs_from_top || !in_one_column || text.info.extents_mode == extents::ink) return dispose(text);
+  std::vector<geom_line> broken;
+  broken.swap(text.lines);
+  text.lines.reserve(broken.size() + 1);
+  text.columns.clear();
+  disposer(text).run_again(broken, edit);
 }
 
 }  // namespace mtext
