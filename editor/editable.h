@@ -8,6 +8,7 @@
 #include "editor/mtext_editor.h"
 #include "editor/text_frame.h"
 #include "host/composer.h"
+#include "mtext/dispose.h"
 #include "mtext/geom_multitext.h"
 #include "mtext/letters_dictionary.h"
 #include "mtext/parse.h"
@@ -247,14 +248,20 @@ class ExMTextEditable : public OdDbEntity {
   void endOfEdit(bool relayout);
   /// Lays out and recomputes the current formats, whether it is needed or not.
   void layOut();
+  /// What the edits so far have cost: each of these reads the whole text. A key should cost one of each.
+  struct costs {
+    unsigned layouts = 0;     ///< the text was laid out
+    unsigned numberings = 0;  ///< its lists were marked and counted
+  };
+  const costs& costsSoFar() const { return m_costs; }
   void notifyWatchers();
   /// Watchers stay their owner's.
   void addWatcher(MTextEditor& watcher) { m_watchers.push_back(&watcher); }
   void removeWatcher(MTextEditor& watcher);
 
   const mtext::geom_multitext& text() const { return m_text; }
-  /// Replaces text, lines and selections, as undo does.
-  void replaceText(mtext::geom_multitext text) { m_text = std::move(text); }
+  /// Replaces text, lines and selections by a text that was laid out, as undo does.
+  void replaceText(mtext::geom_multitext text);
 
  protected:
   /// Draws letters and stacks through the text's matrix.
@@ -268,6 +275,11 @@ class ExMTextEditable : public OdDbEntity {
   void replaceSelections(const insertion& make);
   /// Erases what a mark covers; the mark collapses to its begin.
   void eraseRange(const mtext::marks::mark& range);
+  /// Inserts parts and marks.
+  void insertParts(std::size_t at, mtext::geom_multitext made);
+  /// `count` parts came to stand at `at`, in place of others. Layout goes by what was noted since the last
+  /// one, unless `m_layout_dirty` asks for all of it.
+  void noteEdit(std::size_t at, std::size_t count, bool paragraph_ends);
   void recomputeCurrentFormats();
   /// Marks all lists anew, counts them and writes their labels.
   void renumber();
@@ -279,7 +291,8 @@ class ExMTextEditable : public OdDbEntity {
   void startParagraph(std::size_t at, const mtext::format::string& format, bool column_break);
   /// Has the parts from `first` to `last` measure themselves again.
   void remeasure(std::size_t first, std::size_t last);
-  void deleteBackAt(const mtext::marks::selection& selection, bool word);
+  /// Backspace at one selection. Returns whether it erased a word by `word`.
+  bool deleteBackAt(const mtext::marks::selection& selection, bool word);
   void pasteCodes(const std::u16string& codes);
   void pastePlain(std::u16string_view text);
   /// Whether a caret stands in a paragraph that opens with a label nobody has marked yet.
@@ -322,8 +335,10 @@ class ExMTextEditable : public OdDbEntity {
   std::vector<mtext::marks::selection> m_selections_before;  ///< as `endOfEdit` saw them last
   std::vector<MTextEditor*> m_watchers;
   mtext::marks::letters_dictionary m_letters;
+  costs m_costs;
   bool m_numbering_dirty = false;
-  bool m_layout_dirty = false;
+  bool m_layout_dirty = false;             ///< all of the text is to be laid out
+  std::optional<mtext::text_edit> m_edit;  ///< what was typed and erased since it was
   bool m_draft = false;
 };
 

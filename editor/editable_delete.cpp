@@ -33,27 +33,31 @@ mark range_before(const mtext::geom_multitext& text, std::size_t at, bool word) 
 
 }  // namespace
 
-void ExMTextEditable::deleteBackAt(const selection& range, bool word) {
-  if (!range.empty()) return eraseRange(range);
+bool ExMTextEditable::deleteBackAt(const selection& range, bool word) {
   const std::size_t at = range.begin;
+  if (!range.empty()) {
+    eraseRange(range);
+    return false;
+  }
   auto* paragraph = paragraph_beginning_at(m_text, at);
   // The first Backspace takes the paragraph's format, the next one joins it to the paragraph before.
   if (paragraph && (at == 0 || differs_from_plain(*paragraph, textHeight()))) {
     *paragraph = plain_paragraph();
-    return;
+    m_layout_dirty = true;
+    return false;
   }
+  const bool is_word = word && !editing::solid_ending_at(m_text, at);
   eraseRange(range_before(m_text, at, word));
+  return is_word;
 }
 
 void ExMTextEditable::deleteBack(bool word) {
   for (const selection* range : editing::selection_marks(m_text)) {
-    deleteBackAt(*range, word);
-    if (!word) continue;
-    // The next word starts where the text now is.
-    renumber();
-    layOut();
+    m_numbering_dirty = true;
+    // The labels are counted at once, since the next word starts where the text now is. No word depends on
+    // the layout, which waits for the end.
+    if (deleteBackAt(*range, word)) renumber();
   }
-  m_numbering_dirty = m_layout_dirty = true;
 }
 
 void ExMTextEditable::deleteForward() {
@@ -68,10 +72,10 @@ void ExMTextEditable::deleteForward() {
         eraseRange({solid->begin, solid->end});
     }
   }
-  m_numbering_dirty = m_layout_dirty = true;
+  m_numbering_dirty = true;
 }
 
 void ExMTextEditable::deleteSelection(bool mark_changed) {
   for (const selection* range : editing::selection_marks(m_text)) eraseRange(*range);
-  if (mark_changed) m_numbering_dirty = m_layout_dirty = true;
+  if (mark_changed) m_numbering_dirty = true;
 }

@@ -1,5 +1,6 @@
 #include "editor/editable.h"
 #include "editor/list_labels.h"
+#include "editor/remembering_finder.h"
 #include "editor/selection_scope.h"
 #include "editor/word_bounds.h"
 #include "mtext/format_at.h"
@@ -19,11 +20,14 @@ mtext::marks::index level_of_kind(std::uint32_t kind, std::size_t alphabet, std:
 }  // namespace
 
 void ExMTextEditable::renumber() {
+  ++m_costs.numberings;
+  m_numbering_dirty = false;
   mtext::mark_numberings(m_text, m_letters);
+  if (!editing::has_labels(m_text)) return;
   mtext::marks::update_numberings(m_text.marks, m_letters);
   const editing::label_end_scope ends(m_text);
-  mtext::update_every_numbering(m_text, *m_finder, m_letters);
-  m_numbering_dirty = false;
+  // All labels are written anew, and nearly all of them with the same few characters.
+  mtext::update_every_numbering(m_text, remembering_finder(*m_finder), m_letters);
   m_layout_dirty = true;
 }
 

@@ -27,14 +27,15 @@ void ExMTextEditable::startParagraph(std::size_t at, const mtext::format::string
   if (label && label->end == at) {
     // An item without text ends the list, so a second Enter leaves it.
     removeLabel(start);
+    m_layout_dirty = true;
     at = start;
   } else if (label && label->end < at) {
     next = next_item(label->indices);
   }
   const mtext::new_paragraph end(mtext::paragraph_at(m_text, at), format, column_break);
-  m_text.insert(at, mtext::to_geom(end, textHeight(), *m_finder));
+  insertParts(at, mtext::to_geom(end, textHeight(), *m_finder));
   if (!next.empty())
-    m_text.insert(at + 1, editing::label_to_insert(next, format, textHeight(), *m_finder, m_letters));
+    insertParts(at + 1, editing::label_to_insert(next, format, textHeight(), *m_finder, m_letters));
 }
 
 void ExMTextEditable::insertParagraph(bool column_break) {
@@ -45,7 +46,6 @@ void ExMTextEditable::insertParagraph(bool column_break) {
     range->caret_at_begin = range->at_line_end = false;
   }
   // The items behind keep their numbers until the next typing or deleting. That is deliberate.
-  m_layout_dirty = true;
 }
 
 void ExMTextEditable::insertColumnBreak() {

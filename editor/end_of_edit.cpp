@@ -26,10 +26,24 @@ void ExMTextEditable::recomputeCurrentFormats() {
 }
 
 void ExMTextEditable::layOut() {
-  mtext::dispose(m_text);
+  if (m_edit && !m_layout_dirty)
+    mtext::dispose(m_text, *m_edit);
+  else
+    mtext::dispose(m_text);
+  m_edit.reset();
+  ++m_costs.layouts;
   m_frame.leading = mtext::last_line_leading(m_text);
   m_layout_dirty = false;
   recomputeCurrentFormats();
+}
+
+void ExMTextEditable::replaceText(mtext::geom_multitext text) {
+  m_text = std::move(text);
+  m_frame.leading = mtext::last_line_leading(m_text);
+  m_layout_dirty = false;
+  m_edit.reset();
+  recomputeCurrentFormats();
+  if (m_composed) displayComposition();
 }
 
 void ExMTextEditable::endOfEdit(bool relayout) {
@@ -41,7 +55,7 @@ void ExMTextEditable::endOfEdit(bool relayout) {
   if (relayout) {
     if (m_numbering_dirty) renumber();
     if (m_finder && editing::clean_labels(m_text, *m_finder)) m_layout_dirty = true;
-    if (m_layout_dirty) layOut();
+    if (m_layout_dirty || m_edit) layOut();
   }
   if (m_composed) displayComposition();
   if (moved) notifyWatchers();

@@ -15,6 +15,7 @@ using held = held_keys;
 
 constexpr auto kEdits = key_effect::edits;
 constexpr auto kMoves = key_effect::moves;
+constexpr auto kRestores = key_effect::restores;
 constexpr auto kPasses = key_effect::passes;
 
 bool ctrl(const session&, const held& keys) { return keys.ctrl_alone(); }
@@ -90,8 +91,8 @@ constexpr key_row kRows[] = {
     {'V', ctrl, paste, kUndoDelete, kEdits, false, u"pastes"},
     {'V', nullptr, nullptr, kUndoDelete, kPasses, false, u"types a v"},
     {'X', ctrl, cut, kUndoDelete, kEdits, false, u"cuts"},
-    {'Y', ctrl, redo, kUndoNone, kEdits, false, u"redoes"},
-    {'Z', ctrl, undo, kUndoNone, kEdits, false, u"undoes"},
+    {'Y', ctrl, redo, kUndoNone, kRestores, false, u"redoes"},
+    {'Z', ctrl, undo, kUndoNone, kRestores, false, u"undoes"},
 };
 
 }  // namespace

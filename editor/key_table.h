@@ -10,9 +10,10 @@ namespace editing {
 
 /// What a row does besides its action.
 enum class key_effect {
-  edits,   ///< all is painted anew
-  moves,   ///< the caret alone: starts a new undo run, and the text layer stays as it is
-  passes,  ///< the key is not handled: its character message comes through
+  edits,     ///< all is painted anew
+  moves,     ///< the caret alone: starts a new undo run, and the text layer stays as it is
+  restores,  ///< another text takes its place, laid out already: nothing of an edit is left to close
+  passes,    ///< the key is not handled: its character message comes through
 };
 
 /// One row of the key table.

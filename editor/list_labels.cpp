@@ -1,5 +1,7 @@
 #include "editor/list_labels.h"
 
+#include <algorithm>
+
 #include "editor/selection_scope.h"
 
 #include "mtext/label_text.h"
@@ -35,6 +37,11 @@ bool clean_label(mtext::geom_multitext& text, numbering& label, const mtext::str
 
 numbering* label_at(mtext::geom_multitext& text, std::size_t start) {
   return mtext::marks::find_numbering(text.marks, start);
+}
+
+bool has_labels(const mtext::geom_multitext& text) {
+  return std::any_of(text.marks.begin(), text.marks.end(),
+                     [](const auto& mark) { return dynamic_cast<const numbering*>(&mark) != nullptr; });
 }
 
 numbering* label_before(mtext::geom_multitext& text, std::size_t position) {

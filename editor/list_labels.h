@@ -14,6 +14,9 @@ namespace editing {
 /// The label of the paragraph that begins at `start`, or null.
 mtext::marks::numbering* label_at(mtext::geom_multitext& text, std::size_t start);
 
+/// Whether any paragraph of the text is a list item.
+bool has_labels(const mtext::geom_multitext& text);
+
 /// The label that ends directly before `position`, or null.
 mtext::marks::numbering* label_before(mtext::geom_multitext& text, std::size_t position);
 

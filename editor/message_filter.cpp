@@ -91,7 +91,6 @@ void session_filter::selectWord(const OdGePoint3d& point) {
   const auto at = point_in_text(m_session, point);
   if (!at) return;
   m_session.editable().selectWordAt(*at);
-  m_session.editable().endOfEdit(/*relayout=*/false);
   m_session.repaint(redraw_request::kGadgets);
 }
 

@@ -10,11 +10,12 @@ namespace editing {
 
 namespace {
 
-void perform(smart_edit& session, const key_row& row, const held_keys& held, int repeat) {
+/// The keys that are held are asked for each time anew: Shift may be let go while a key repeats.
+void perform(smart_edit& session, const key_row& row, const HostWindowMessage& message) {
   if (row.kind != kUndoNone) session.pushUndoStep(row.kind);
-  if (row.effect == key_effect::moves) session.undo().start_move();
-  const int times = row.repeats ? repeat : 1;
-  for (int i = 0; i < times && row.action; ++i) row.action(session, held);
+  if (row.effect == key_effect::moves) session.endUndoRun();
+  const int times = row.repeats ? message.repeat : 1;
+  for (int i = 0; i < times && row.action; ++i) row.action(session, keys_held(message));
 }
 
 }  // namespace
@@ -22,12 +23,11 @@ void perform(smart_edit& session, const key_row& row, const held_keys& held, int
 void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
   session.setKeyDown(true);
   const ExMTextEditablePtr alive(&session.editable());
-  const held_keys held = keys_held(message);
-  const key_row* row = find_key(message.code, held, session);
+  const key_row* row = find_key(message.code, keys_held(message), session);
   if (row) {
     session.mouse().forget();
     session.typed().forget();
-    perform(session, *row, held, message.repeat);
+    perform(session, *row, message);
   }
   const bool handled = row && row->effect != key_effect::passes;
   if (!handled) session.setKeyDown(false);
@@ -36,7 +36,7 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
   if (!row || row->effect != key_effect::moves)
     session.repaint(redraw_request::kGadgets | redraw_request::kText);
   host::update_now();
-  alive->endOfEdit(/*relayout=*/true);
+  if (!row || row->effect != key_effect::restores) alive->endOfEdit(/*relayout=*/true);
 }
 
 void handle_character(smart_edit& session, const HostWindowMessage& message) {

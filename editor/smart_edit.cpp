@@ -46,14 +46,31 @@ smart_edit::~smart_edit() {
   showSource();
 }
 
-void smart_edit::pushUndoStep(int kind) { m_undo.push(kind, *m_editable); }
+void smart_edit::tellToolbar(toolbar_undo_change change) const {
+  if (m_toolbar) m_toolbar(kToolbarUndoChanged, change);
+}
+
+void smart_edit::pushUndoStep(int kind) {
+  m_undo.push(kind, *m_editable);
+  tellToolbar(kUndoButtonsChanged);
+}
 
 void smart_edit::undoStep() {
-  if (m_undo.undo(*m_editable)) repaint(redraw_request::kGadgets | redraw_request::kText);
+  if (m_undo.undo(*m_editable)) showRestored();
 }
 
 void smart_edit::redoStep() {
-  if (m_undo.redo(*m_editable)) repaint(redraw_request::kGadgets | redraw_request::kText);
+  if (m_undo.redo(*m_editable)) showRestored();
+}
+
+void smart_edit::showRestored() {
+  repaint(redraw_request::kGadgets | redraw_request::kText);
+  tellToolbar(kTextRestored);
+}
+
+void smart_edit::endUndoRun() {
+  m_undo.start_move();
+  tellToolbar(kUndoButtonsChanged);
 }
 
 void smart_edit::openGadgets() { m_gadgets.open(*m_editable, m_host.view().unitsPerPixel()); }

@@ -11,6 +11,7 @@
 #include "editor/mouse.h"
 #include "editor/redraw.h"
 #include "editor/session_composer.h"
+#include "editor/toolbar_link.h"
 #include "editor/typed_characters.h"
 #include "editor/undo_stack.h"
 #include "editor/view_policy.h"
@@ -66,9 +67,14 @@ class smart_edit : public MTextEditor {
   /// told in one sentence, and the session goes on.
   void recover(unsigned steps_before, const std::exception& error);
 
+  /// Opens or continues a run of edits of one kind, in front of the edit.
   void pushUndoStep(int kind);
   void undoStep();
   void redoStep();
+  /// A caret key ends the run of edits.
+  void endUndoRun();
+  /// Who is told that undo and redo changed; nobody without one.
+  void setToolbar(toolbar_link toolbar) { m_toolbar = std::move(toolbar); }
   /// True when there is something to save.
   bool hasChanges() const { return !m_undo.is_empty(); }
 
@@ -90,7 +96,6 @@ class smart_edit : public MTextEditor {
   ExMTextEditable& editable() { return *m_editable; }
   const ExMTextEditable& editable() const { return *m_editable; }
   const undo_stack& undo() const { return m_undo; }
-  undo_stack& undo() { return m_undo; }
   text_mouse& mouse() { return m_mouse; }
   typed_characters& typed() { return m_typed; }
   /// Ruler and handles; open in a multi-line session alone.
@@ -121,6 +126,9 @@ class smart_edit : public MTextEditor {
   void showSource();
   void takeOrigin();
   void startEditing(const session_start& start);
+  void tellToolbar(toolbar_undo_change change) const;
+  /// Behind undo and redo.
+  void showRestored();
   bool textChanged() const;
   void write(OdDbMText& target);
   void writeColumns(OdDbMText& target);
@@ -142,6 +150,7 @@ class smart_edit : public MTextEditor {
   EditHost& m_host;
   ExMTextEditablePtr m_editable;
   undo_stack m_undo;
+  toolbar_link m_toolbar;
   text_mouse m_mouse;
   typed_characters m_typed;
   gadget_tree m_gadgets;

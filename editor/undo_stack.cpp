@@ -2,12 +2,14 @@
 
 namespace {
 
-UndoSnapshot taken(const ExMTextEditable& text, int kind) {
+/// The present state; what it has in common with the newest of `neighbours` is shared.
+UndoSnapshot taken(const ExMTextEditable& text, int kind, const OdArray<UndoSnapshot>& neighbours) {
   if (kind == kUndoNone) return {};
+  const stored_text* neighbour = neighbours.isEmpty() ? nullptr : &neighbours.last().geometry;
   return {.width = text.frame().width,
           .height = text.frame().height,
           .text_height = text.textHeight(),
-          .geometry = text.text(),
+          .geometry = stored_text(text.text(), neighbour),
           .style = text.styleId(),
           .attachment = text.attachment(),
           .kind = kind};
@@ -19,13 +21,13 @@ void restore(const UndoSnapshot& step, ExMTextEditable& text) {
   text.setAttachment(step.attachment);
   text.setSize(step.width, step.height);
   text.setTextHeight(step.text_height, true);
-  text.replaceText(step.geometry);
+  text.replaceText(step.geometry.restored());
 }
 
 /// Puts the present state aside and goes to the newest step of `from`.
 bool step_between(OdArray<UndoSnapshot>& from, OdArray<UndoSnapshot>& to, ExMTextEditable& text) {
   if (from.isEmpty()) return false;
-  to.append(taken(text, kUndoPresent));
+  to.append(taken(text, kUndoPresent, from));
   restore(from.last(), text);
   from.removeLast();
   return true;
@@ -35,7 +37,7 @@ bool step_between(OdArray<UndoSnapshot>& from, OdArray<UndoSnapshot>& to, ExMTex
 
 void undo_stack::push(int kind, const ExMTextEditable& text) {
   if (m_undo.isEmpty()) m_redo.clear();
-  if (kind != m_run_kind && kind != kUndoNone) m_undo.append(taken(text, kind));
+  if (kind != m_run_kind && kind != kUndoNone) m_undo.append(taken(text, kind, m_undo));
   m_run_kind = kind;
 }
 

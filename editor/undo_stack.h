@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/editable.h"
+#include "editor/stored_text.h"
 #include "od/base/OdArray.h"
 
 /// The kinds of an undo step: consecutive steps of one kind are one step.
@@ -17,19 +18,19 @@ enum undo_kind : int {
 };
 
 /// The whole state of a text at one moment: undo goes back to states, it has no inverse operations.
-/// The laid-out lines and all selections are part of the geometry.
+/// All marks, and so all selections, are part of the geometry.
 struct UndoSnapshot {
   double width = 0;
   double height = 0;
   double text_height = 0;
-  mtext::geom_multitext geometry;
+  stored_text geometry;
   OdDbObjectId style;
   int attachment = 0;
   int kind = kUndoNone;  ///< 0: an empty step, which holds nothing
 };
 
 /// Undo and redo of one session. A *run* is a sequence of like edits; the state in front of it is the step.
-/// Steps have no bound: a session is short.
+/// Steps have no bound: a session is short, and each shares with the one before it what they have in common.
 class undo_stack {
  public:
   /// Opens or continues a run: takes a snapshot of `text` unless the run has this kind already, or `kind` is
@@ -50,6 +51,9 @@ class undo_stack {
   unsigned undo_count() const { return m_undo.size(); }
   unsigned redo_count() const { return m_redo.size(); }
   int run_kind() const { return m_run_kind; }
+  /// All steps, the oldest first.
+  const OdArray<UndoSnapshot>& undo_steps() const { return m_undo; }
+  const OdArray<UndoSnapshot>& redo_steps() const { return m_redo; }
 
  private:
   OdArray<UndoSnapshot> m_undo;
