@@ -2,7 +2,6 @@
 
 #include "host/key_code.h"
 #include "tests/editor/edited_text.h"
-#include "tests/editor/flat_view.h"
 
 // Where carets and selections stand behind an edit, and when they are tidied.
 
@@ -13,14 +12,6 @@ mtext::format::string_partial red() {
   change.color = mtext::format::text_color{.kind = 0, .index = 1};
   return change;
 }
-
-/// A text whose points are those of the world.
-struct flat_text : edited_text {
-  explicit flat_text(std::string_view drawn) : edited_text(drawn, wrapping(60)) {
-    lay_flat(application());
-    session().onChanged();
-  }
-};
 
 HostWindowMessage at(unsigned number, double x, bool shift = false) {
   return {.number = number, .point = {x, -1, 0}, .shift = shift};
@@ -73,14 +64,14 @@ TEST(CaretsAfterEdits, end_on_an_empty_last_line_goes_in_front_of_the_break_that
 }
 
 TEST(CaretsAfterEdits, shift_and_a_press_move_the_selection_that_is_last_in_the_text) {
-  flat_text text("[a]b|cdef");
+  edited_text text("[a]b|cdef", wrapping(60));
   text.send(at(WM_LBUTTONDOWN, 6.1, /*shift=*/true));
   EXPECT_EQ(text.drawn(), "[a]b[cd]ef");
 }
 
 TEST(CaretsAfterEdits, a_press_and_a_double_click_leave_the_format_that_waits_and_a_release_drops_it) {
   const auto typed_behind = [](const std::vector<HostWindowMessage>& messages) {
-    flat_text text("|ab");
+    edited_text text("|ab", wrapping(60));
     text.text().applyFormat(red());
     for (const auto& message : messages) text.send(message);
     text.send({.number = WM_CHAR, .code = u'x'});

@@ -1,12 +1,14 @@
 #include "tests/editor/edited_drawing.h"
 
 #include "mtext/entity/mtext_layout.h"
+#include "tests/editor/flat_view.h"
 #include "ui/resources/menus.h"
 #include "ui/resources/strings.h"
 
 edited_drawing::edited_drawing() : database(OdDbDatabase::createEmpty()), application(database) {
   resources::register_strings();
   resources::register_menus();
+  lay_flat(application);
   database->setTextLayout(std::make_shared<mtext::mtext_layout>());
   text = odNew<OdDbMText>();
   text->setDatabaseDefaults(database.get());

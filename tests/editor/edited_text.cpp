@@ -7,6 +7,7 @@
 #include "host/key_code.h"
 #include "od/base/unicode.h"
 #include "od/db/OdDbDatabase.h"
+#include "tests/editor/flat_view.h"
 #include "tests/mtext/stub_finder.h"
 #include "ui/resources/menus.h"
 #include "ui/resources/strings.h"
@@ -103,6 +104,7 @@ edited_text::edited_text(const OdString& codes, const mtext::convert_info& info,
     : m_application(std::make_unique<WindowlessApplication>(OdDbDatabase::createEmpty())) {
   resources::register_strings();
   resources::register_menus();
+  lay_flat(*m_application);
   m_session = std::make_unique<smart_edit>(m_application->document());
   text().setDatabaseDefaults(&m_application->document().database());
   text().setFinder(std::make_shared<mtext::stub_finder>());

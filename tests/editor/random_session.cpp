@@ -4,7 +4,6 @@
 
 #include "od/gi/OdGiRecorder.h"
 #include "od/gi/OdGsView.h"
-#include "tests/editor/flat_view.h"
 
 namespace {
 
@@ -26,9 +25,7 @@ mtext::format::paragraph_partial alignment(std::uint32_t number) {
 }  // namespace
 
 random_session::random_session(unsigned seed)
-    : m_random(seed), m_subject("one two¶1.→three¶2.→four|", wrapping(60)) {
-  lay_flat(m_subject.application());
-}
+    : m_random(seed), m_subject("one two¶1.→three¶2.→four|", wrapping(60)) {}
 
 HostWindowMessage random_session::at_random_point(unsigned number) {
   const double x = static_cast<double>(m_random.below(640)) / 10 - 1;
