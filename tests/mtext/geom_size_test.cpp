@@ -1,5 +1,4 @@
 #include <gtest/gtest.h>
-#include <pthread.h>
 
 #include <ctime>
 
@@ -9,7 +8,8 @@
 #include "mtext/to_geom.h"
 #include "tests/mtext/decoded.h"
 
-/// Attacks by size: what grows with the square of the text would not end here.
+/// Attacks by size on single steps: what grows with the square of the text would not end here. Those that go
+/// from the string to the string stand in long_way_attacks_test.cpp.
 namespace mtext {
 namespace {
 
@@ -44,23 +44,11 @@ void expect_layouts_to_end(geom_multitext& text) {
   }
 }
 
-TEST(Size, a_million_characters_in_one_word) {
-  geom_multitext text = to_geom(std::u16string(million, u'a'), {}, 10, stub_finder());
-  expect_layouts_to_end(text);
-  EXPECT_EQ(text.lines.size(), 1u);
-}
-
 TEST(Size, a_million_words) {
   std::u16string typed;
   for (std::size_t i = 0; i < million / 2; ++i) typed += u"a ";
   geom_multitext text = to_geom(typed, {}, 10, stub_finder());
   expect_layouts_to_end(text);
-}
-
-TEST(Size, a_million_paragraphs) {
-  geom_multitext text = repeated(new_paragraph({}, {}, false), million);
-  expect_layouts_to_end(text);
-  EXPECT_EQ(text.lines.size(), million + 1);
 }
 
 TEST(Size, a_million_columns_attached_at_the_bottom) {
@@ -137,26 +125,6 @@ TEST(Size, copies_erases_and_slices_of_a_million_parts) {
   });
   EXPECT_LT(seconds, enough_seconds);
   EXPECT_EQ(text.parts.size(), million);
-}
-
-/// Runs on a stack of 256 kB: reads, lays out and flattens a long text.
-void* work_on_a_small_stack(void* done) {
-  geom_multitext text = to_geom(std::u16string(million, u'a'), {}, 10, stub_finder());
-  dispose(text);
-  *static_cast<bool*>(done) = flatten(text).parts.size() == million;
-  return nullptr;
-}
-
-TEST(Size, a_million_characters_on_a_small_stack) {
-  pthread_attr_t attributes;
-  ASSERT_EQ(pthread_attr_init(&attributes), 0);
-  ASSERT_EQ(pthread_attr_setstacksize(&attributes, 256 * 1024), 0);
-  bool done = false;
-  pthread_t thread;
-  ASSERT_EQ(pthread_create(&thread, &attributes, work_on_a_small_stack, &done), 0);
-  pthread_join(thread, nullptr);
-  pthread_attr_destroy(&attributes);
-  EXPECT_TRUE(done);
 }
 
 }  // namespace

@@ -13,7 +13,7 @@ namespace mtext {
 namespace {
 
 constexpr std::size_t million = 1'000'000;
-constexpr double widths[] = {0, 1e-300, 1e300, -1, 1000};
+constexpr double widths[] = {0, 1e-300, 1e300, -1, -1e300, 1000};
 
 std::u16string repeated(std::u16string_view piece, std::size_t count) {
   std::u16string text;
