@@ -7,6 +7,7 @@ int main(int argc, char** argv) {
   qputenv("QT_QPA_PLATFORM", "offscreen");
   const QGuiApplication fonts(argc, argv);
   benchmarks::register_scribe();
+  benchmarks::register_session();
   benchmarks::register_qt();
   benchmarks::register_pango();
   benchmarks::register_yardstick();

@@ -12,8 +12,8 @@ PEERS = ("QTextDocument", "Pango")
 DENSITIES = ("plain", "typical", "dense")
 WORK_WITH_PEERS = ("measure and lay out", "insert a character and lay out", "find a position", "memory")
 WORK = ("read", "write", "measure", "lay out", "measure and lay out", "find a position", "insert a character and lay out",
-        "copy for undo", "memory")
-AT_ONE_PLACE = ("find a position", "insert a character and lay out")
+        "type a key in a session", "type a key as an undo step", "copy for undo", "memory")
+AT_ONE_PLACE = ("find a position", "insert a character and lay out", "type a key in a session", "type a key as an undo step")
 HEADINGS = ("work", "text", "letters", "scribe", "per letter", *PEERS, "memcpy", "of nearest peer")
 NANOSECONDS = {"ns": 1.0, "us": 1e3, "ms": 1e6, "s": 1e9}
 # Fonts are scaled a little differently by each; more than this would be another amount of work.

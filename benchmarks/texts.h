@@ -29,6 +29,7 @@ inline void add_counted(const char* name, void (*count)(benchmark::State&)) {
 
 /// Makes the measurements of a contestant known.
 void register_scribe();
+void register_session();
 void register_qt();
 void register_pango();
 void register_yardstick();
