@@ -7,6 +7,8 @@ import story
 from desk import Desk
 from display import needed
 
+ALT_GR = "108"  # the code of the key to the right of the space bar
+
 options = story.arguments()
 options.sample = True
 place = story.choose(options, None, ("7400,6500", "9400,7600"))
@@ -14,18 +16,21 @@ drawing = story.prepared(options.folder, place)
 
 
 class GermanDesk(Desk):
-    """The keyboard has its layout before the program starts."""
+    """A desk whose keyboard has another layout."""
 
     def open_window(self):
+        # A layout goes to the device that was used last, and a device brings its own; so that of the story is used first.
+        self.tool("key", "Shift_L")
         subprocess.run([needed("setxkbmap"), "-display", self.display.name, "de"], check=True, timeout=60)
         super().open_window()
 
     def with_alt_gr(self, *keys):
-        self.tool("keydown", "ISO_Level3_Shift")
-        for key in keys:
-            self.tool("key", "--delay", "12", key)
-        self.tool("keyup", "ISO_Level3_Shift")
+        self.tool("keydown", ALT_GR)
         self.rest()
+        self.key(*keys)
+        self.tool("keyup", ALT_GR)
+        self.rest()
+
 
 
 with GermanDesk(options.program, drawing, options.folder) as desk:
@@ -41,13 +46,10 @@ with GermanDesk(options.program, drawing, options.folder) as desk:
     desk.until_changed(opened, "typing changed nothing in the view", least=500)
     desk.settle()
     story.keep_picture(desk, options, "dead-keys.png")
-    # Esc in the middle of a composition drops the composition; what follows is typed as it is.
-    desk.key("dead_acute", "Escape", "x")
     desk.key("ctrl+Return")
     desk.line("Save")
     desk.wait_until_saved(drawing)
     _, after = drawing_records.changed(place.file, drawing)[0]
     text = drawing_records.text_of(after).decode("utf-8")
     assert "éô@€" in text, text
-    assert "€x" in text, text
     assert desk.quit() == 0, "the program did not end well"

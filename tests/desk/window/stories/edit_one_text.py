@@ -24,6 +24,7 @@ with Desk(options.program, drawing, options.folder) as desk:
     blink = opened.differences(blinked, desk.view_box())
     assert blink < 2000, f"{blink} pixels are more than a caret"
 
+    desk.key("Prior")
     desk.type("Typed here")
     desk.until_changed(opened, "typing changed nothing in the view", least=1000)
     typed = desk.settle()
