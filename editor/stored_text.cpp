@@ -52,14 +52,50 @@ piece_pointer copied(const mtext::geom_parts& parts, const editing::piece_range&
   return piece;
 }
 
+/// Whether `parts` hold from `first` on what `piece` holds.
+bool holds_at(const mtext::geom_parts& parts, std::size_t first, const stored_text::piece& piece) {
+  return std::equal(piece.parts.begin(), piece.parts.end(),
+                    parts.begin() + static_cast<std::ptrdiff_t>(first), editing::same_but_placed);
+}
+
+/// How many pieces the front of `parts` has in common with `pieces`, and behind them the back.
+struct common_ends {
+  common_ends(const mtext::geom_parts& parts, const std::vector<piece_pointer>& pieces) : last(parts.size()) {
+    for (; front < pieces.size() && fits(*pieces[front]) && holds_at(parts, first, *pieces[front]); ++front)
+      first += pieces[front]->parts.size();
+    while (back < pieces.size() - front) {
+      const stored_text::piece& piece = *pieces[pieces.size() - back - 1];
+      if (!fits(piece) || !holds_at(parts, last - piece.parts.size(), piece)) break;
+      last -= piece.parts.size();
+      ++back;
+    }
+    // A short rest takes a neighbour in, lest edit upon edit leaves a text in crumbs.
+    for (; back > 0 && last - first < editing::kLeastPiece; --back)
+      last += pieces[pieces.size() - back]->parts.size();
+  }
+
+  bool fits(const stored_text::piece& piece) const { return piece.parts.size() <= last - first; }
+
+  std::size_t front = 0;  ///< pieces
+  std::size_t back = 0;   ///< pieces
+  std::size_t first = 0;  ///< part behind those in front
+  std::size_t last;       ///< first part of those at the back
+};
+
 }  // namespace
 
 stored_text::stored_text(const mtext::geom_multitext& text, const stored_text* neighbour) {
-  piece_finder shared(neighbour);
-  for (const auto& range : editing::cut_into_pieces(text.parts)) {
+  static const std::vector<piece_pointer> none;
+  const std::vector<piece_pointer>& near = neighbour ? neighbour->m_pieces : none;
+  const common_ends common(text.parts, near);
+  m_pieces.assign(near.begin(), near.begin() + static_cast<std::ptrdiff_t>(common.front));
+  // Between the ends there may be several places that changed, and equal pieces between them.
+  piece_finder shared(common.first < common.last ? neighbour : nullptr);
+  for (const auto& range : editing::cut_into_pieces(text.parts, common.first, common.last)) {
     piece_pointer found = shared.find(text.parts, range);
     m_pieces.push_back(found ? std::move(found) : copied(text.parts, range));
   }
+  m_pieces.insert(m_pieces.end(), near.end() - static_cast<std::ptrdiff_t>(common.back), near.end());
   m_pieces.shrink_to_fit();
   m_frame.format = text.format;
   m_frame.info = text.info;

@@ -6,7 +6,6 @@ namespace {
 
 namespace format = mtext::format;
 
-constexpr std::size_t kLeast = 8;
 constexpr std::size_t kMost = 128;
 /// One place in 16 ends a piece that has the least length.
 constexpr int kCutBits = 4;
@@ -85,17 +84,18 @@ bool same_size(const mtext::geom_part& a, const mtext::geom_part& b) {
 
 }  // namespace
 
-std::vector<piece_range> cut_into_pieces(const mtext::geom_parts& parts) {
+std::vector<piece_range> cut_into_pieces(const mtext::geom_parts& parts, std::size_t first,
+                                         std::size_t last) {
   std::vector<piece_range> pieces;
   std::uint64_t recent = 0;
-  piece_range open{0, 0, 0};
-  for (std::size_t at = 0; at < parts.size(); ++at) {
+  piece_range open{first, first, 0};
+  for (std::size_t at = first; at < last; ++at) {
     const std::uint16_t sign = sign_of(parts[at]);
     recent = recent << 16 | sign;
     open.fingerprint = extended(open.fingerprint, sign);
     open.last = at + 1;
     const std::size_t length = open.last - open.first;
-    if (length < kLeast || (length < kMost && !ends_piece(recent))) continue;
+    if (length < kLeastPiece || (length < kMost && !ends_piece(recent))) continue;
     pieces.push_back(open);
     open = {at + 1, at + 1, 0};
   }

@@ -16,9 +16,12 @@ struct piece_range {
   std::uint64_t fingerprint;
 };
 
-/// Cuts `parts` into pieces of about two dozen. A piece ends where the last few characters say so, wherever
-/// the piece began: behind an edit the cuts soon fall where they fell before.
-std::vector<piece_range> cut_into_pieces(const mtext::geom_parts& parts);
+/// Parts of the shortest piece, but for one that is all between two others.
+constexpr std::size_t kLeastPiece = 8;
+
+/// Cuts the parts from `first` to `last` into pieces of about two dozen. A piece ends where the last few
+/// characters say so, wherever the piece began: behind an edit the cuts soon fall where they fell before.
+std::vector<piece_range> cut_into_pieces(const mtext::geom_parts& parts, std::size_t first, std::size_t last);
 
 /// Whether two formats are the same exactly, where their own comparison allows a tolerance.
 bool same_format(const mtext::format::string& a, const mtext::format::string& b);
