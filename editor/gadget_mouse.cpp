@@ -72,6 +72,10 @@ void gadget_mouse::release(const std::optional<OdGePoint2d>& at) {
   m_session.repaint(redraw_request::kGadgets | (was_draft ? redraw_request::kText : 0u));
 }
 
+bool gadget_mouse::is_over_text(const OdGePoint2d& at) const {
+  return path_ends_in_text(micui::hit_path(m_session.gadgets().root(), at), at);
+}
+
 HostCursor gadget_mouse::cursor(const OdGePoint2d& at) const {
   const control_path path = micui::hit_path(m_session.gadgets().root(), at);
   const bool is_over_text = !m_session.editable().text().position_at(at.x, at.y).outside;

@@ -27,6 +27,8 @@ class gadget_mouse {
   void release(const std::optional<OdGePoint2d>& at);
   /// Whether a press is being held.
   bool is_pressed() const { return !m_path.empty(); }
+  /// Whether a press at a point would go into the text.
+  bool is_over_text(const OdGePoint2d& at) const;
   /// The cursor to show over a point.
   HostCursor cursor(const OdGePoint2d& at) const;
 

@@ -13,12 +13,21 @@ void gadget_tree::open(const ExMTextEditable& text, double units_per_pixel) {
   refreshed();
 }
 
-void gadget_tree::read_settings() const { m_root->settings = m_text->text().info.columns; }
+void gadget_tree::read_settings() const {
+  m_root->settings = m_text->text().info.columns;
+  m_root->attach(m_text->attachment());
+}
 
 mtext::editor& gadget_tree::refreshed() const {
   read_settings();
   m_root->layout();
   return *m_root;
+}
+
+void gadget_tree::fit(double units_per_pixel) const {
+  if (micui::nearly_equal(m_root->scale, units_per_pixel)) return;
+  m_root->scale = units_per_pixel;
+  refreshed();
 }
 
 void gadget_tree::draw(OdGiViewportDraw& draw) const {

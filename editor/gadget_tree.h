@@ -13,10 +13,12 @@ class gadget_tree {
 
   /// The root. Only while open.
   mtext::editor& root() const { return *m_root; }
-  /// Takes the text's column settings over. Only while open.
+  /// Takes the text's column settings and attachment over. Only while open.
   void read_settings() const;
   /// The same, and lays the gadgets out: the tree is up to date for what comes next.
   mtext::editor& refreshed() const;
+  /// Lays the gadgets out for pixels of another length, if it is another. Only while open.
+  void fit(double units_per_pixel) const;
   /// Draws the gadgets as they now have to be, in the text's plane; nothing while not open.
   void draw(OdGiViewportDraw& draw) const;
   /// Box of the text and all gadgets in text coordinates; empty while not open.

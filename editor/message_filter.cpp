@@ -13,7 +13,21 @@ namespace {
 /// Where in the text a world point lies; nothing when it lies beside it, or cannot be found in its plane.
 std::optional<OdGePoint2d> point_in_text(smart_edit& session, const OdGePoint3d& world) {
   const auto at = session.textPoint(world);
-  return at && editing::is_in_text(session.editable().text(), *at) ? at : std::nullopt;
+  if (!at) return std::nullopt;
+  const bool is_hit = session.gadgets().is_open() ? session.gadgetMouse().is_over_text(*at)
+                                                  : editing::is_in_text(session.editable().text(), *at);
+  return is_hit ? at : std::nullopt;
+}
+
+/// A press on the text or on a gadget around it; false if it lies outside both.
+bool press_at(smart_edit& session, const OdGePoint2d& at, const held_keys& held) {
+  if (session.gadgets().is_open()) {
+    session.fitGadgets();
+    return session.gadgetMouse().press(at, held.shift, held.ctrl);
+  }
+  if (!editing::is_in_text(session.editable().text(), at)) return false;
+  session.mouse().press(at, held.shift, held.ctrl);
+  return true;
 }
 
 }  // namespace
@@ -37,7 +51,7 @@ bool session_filter::handle(const HostWindowMessage& message, const OdGePoint3d&
       press(message, point);
       return true;
     case WM_LBUTTONUP:
-      release();
+      release(point);
       return true;
     case WM_LBUTTONDBLCLK:
       selectWord(point);
@@ -66,24 +80,25 @@ bool session_filter::handle(const HostWindowMessage& message, const OdGePoint3d&
 
 void session_filter::press(const HostWindowMessage& message, const OdGePoint3d& point) {
   m_session.typed().forget();
-  if (!m_session.textPoint(point)) return;
-  const auto at = point_in_text(m_session, point);
-  if (!at) return m_session.exitAt(point);
-  const held_keys held = keys_held(message);
-  m_session.mouse().press(*at, held.shift, held.ctrl);
+  const auto at = m_session.textPoint(point);
+  if (!at) return;
+  if (!press_at(m_session, *at, keys_held(message))) return m_session.exitAt(point);
   if (HostWindow* window = m_session.window()) window->captureMouse();
   m_session.repaint(redraw_request::kGadgets);
 }
 
 void session_filter::drag(const OdGePoint3d& point) {
-  const auto at = m_session.mouse().is_pressed() ? m_session.textPoint(point) : std::nullopt;
+  const bool is_pressed = m_session.mouse().is_pressed() || m_session.gadgetMouse().is_pressed();
+  const auto at = is_pressed ? m_session.textPoint(point) : std::nullopt;
   if (!at) return;
+  if (m_session.gadgets().is_open()) return m_session.gadgetMouse().drag(*at);
   m_session.mouse().drag(*at);
   m_session.repaint(redraw_request::kGadgets);
 }
 
-void session_filter::release() {
+void session_filter::release(const OdGePoint3d& point) {
   if (HostWindow* window = m_session.window()) window->releaseMouse();
+  if (m_session.gadgets().is_open()) return m_session.gadgetMouse().release(m_session.textPoint(point));
   m_session.mouse().release();
 }
 
@@ -96,5 +111,8 @@ void session_filter::selectWord(const OdGePoint3d& point) {
 
 void session_filter::setCursor(const OdGePoint3d& point) {
   HostWindow* window = m_session.window();
-  if (window) window->setCursor(point_in_text(m_session, point) ? IDC_IBEAM : IDC_ARROW);
+  if (!window) return;
+  const auto at = m_session.textPoint(point);
+  if (at && m_session.gadgets().is_open()) return window->setCursor(m_session.gadgetMouse().cursor(*at));
+  window->setCursor(point_in_text(m_session, point) ? IDC_IBEAM : IDC_ARROW);
 }

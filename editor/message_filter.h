@@ -17,7 +17,7 @@ class session_filter : public HostEdMessageFilter {
   bool handle(const HostWindowMessage& message, const OdGePoint3d& point);
   void press(const HostWindowMessage& message, const OdGePoint3d& point);
   void drag(const OdGePoint3d& point);
-  void release();
+  void release(const OdGePoint3d& point);
   void selectWord(const OdGePoint3d& point);
   void setCursor(const OdGePoint3d& point);
 

@@ -107,6 +107,7 @@ bool smart_edit::beginMTextEdit(OdDbMTextPtr source, const session_start& start)
                         .width = box.x,
                         .height = box.y,
                         .attachment = attachment_number(source->attachment())});
+  openGadgets();
   startEditing(start);
   return true;
 }

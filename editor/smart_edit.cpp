@@ -75,6 +75,11 @@ void smart_edit::endUndoRun() {
 
 void smart_edit::openGadgets() { m_gadgets.open(*m_editable, m_host.view().unitsPerPixel()); }
 
+void smart_edit::fitGadgets() {
+  const double magnified = (m_view_policy.edit_transform() * m_editable->direction()).length();
+  m_gadgets.fit(m_host.view().unitsPerPixel() / magnified);
+}
+
 void smart_edit::accept() { m_host.commandInput().type(u"^M"); }
 
 void smart_edit::cancel() { m_host.commandInput().type(u"^C"); }

@@ -101,6 +101,8 @@ class smart_edit : public MTextEditor {
   /// Ruler and handles; open in a multi-line session alone.
   const gadget_tree& gadgets() const { return m_gadgets; }
   void openGadgets();
+  /// Gives the gadgets their size for the view as it now is, painted or not.
+  void fitGadgets();
   gadget_mouse& gadgetMouse() { return m_gadget_mouse; }
   const session_layers& layers() const { return m_layers; }
   bool isSingleLine() const { return m_single_line; }
