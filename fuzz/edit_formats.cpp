@@ -69,7 +69,7 @@ void change_paragraphs(geom_multitext& text, byte_source& input) {
 }
 
 void set_tabs(geom_multitext& text, byte_source& input) {
-  std::vector<format::tab_stop>& tabs = paragraph_at(text, input.up_to(text.parts.size())).tabs;
+  std::vector<format::tab_stop>& tabs = paragraph_at(text, input.up_to(text.parts.size())).tabs.edit();
   tabs.clear();
   for (std::size_t i = input.up_to(5); i > 0; --i)
     tabs.push_back({input.one_of(numbers), static_cast<std::uint32_t>(input.up_to(3)), u'.'});

@@ -5,6 +5,7 @@
 #include "fuzz/layout_laws.h"
 #include "fuzz/require.h"
 #include "mtext/decode.h"
+#include "mtext/dispose.h"
 #include "mtext/marks.h"
 #include "mtext/to_geom.h"
 #include "od/base/unicode.h"
@@ -126,6 +127,29 @@ void replace(geom_multitext& text, byte_source& input) {
   require(same_layout(text, expected), "replacing gives the parts that erasing and inserting give");
 }
 
+bool has_paragraph_end(const geom_multitext& text) {
+  return std::any_of(text.parts.begin(), text.parts.end(),
+                     [](const geom_part& each) { return each.type() == part_new_paragraph; });
+}
+
+/// Replaces a range of a laid-out text, and lays out only what that can have changed.
+void type_over(geom_multitext& text, byte_source& input) {
+  dispose(text);
+  const part_range range = range_in(text, input);
+  geom_multitext typed = made_text(text.info, input);
+  if (text.parts.size() + typed.parts.size() > longest_text) return text.keep(0, longest_text / 2);
+  const text_edit edit{
+      .before = range.first,
+      .behind = text.parts.size() - range.first - range.count,
+      .paragraph_ends = has_paragraph_end(typed) || has_paragraph_end(text.slice(range.first, range.count))};
+  text.erase(range.first, range.count, /*drop_empty=*/false);
+  text.insert(range.first, std::move(typed));
+  geom_multitext whole(text);
+  dispose(text, edit);
+  dispose(whole);
+  require(same_layout(text, whole), "a layout of what changed equals a layout of all");
+}
+
 void lay_out(geom_multitext& text, byte_source& input) {
   require_layout(text);
   require_hit(text, static_cast<double>(input.byte()) - 20, 20 - static_cast<double>(input.byte()));
@@ -145,7 +169,7 @@ part_range range_in(const geom_multitext& text, byte_source& input) {
 
 void edit_parts(geom_multitext& text, byte_source& input) {
   using step = void (*)(geom_multitext&, byte_source&);
-  static constexpr step steps[] = {insert, append, erase, keep, join_halves, replace, lay_out, insert};
+  static constexpr step steps[] = {insert, append, erase, keep, join_halves, replace, lay_out, type_over};
   input.one_of(steps)(text, input);
 }
 

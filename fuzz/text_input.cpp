@@ -32,6 +32,7 @@ mtext::convert_info frame(byte_source& input) {
   made.columns.gutter = 7;
   const std::uint8_t limits = input.byte();
   made.columns.heights = {heights[limits % 7], heights[limits / 7 % 7], heights[limits / 49]};
+  if (made.columns.kind == 0) made.columns.heights.resize(1 + limits % 3);
   made.alignment = static_cast<std::uint32_t>(1 + input.up_to(4));
   const std::uint8_t rest = input.byte();
   made.vertical = rest % 3;
