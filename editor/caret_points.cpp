@@ -63,9 +63,9 @@ void ExMTextEditable::displayedCaret(const mtext::marks::selection& selection, O
 void ExMTextEditable::caretPointsIn(const mtext::geom_multitext& text,
                                     const mtext::marks::selection& selection, OdGePoint2d& top,
                                     OdGePoint2d& bottom) const {
-  const segment found =
-      text.parts.empty() ? in_empty_text(text, m_finder->font_metrics(insertionFormat(selection)), m_frame)
-                         : caret_segment(text, selection);
+  const segment found = text.parts.empty()
+                            ? in_empty_text(text, m_finder->font_metrics(insertionFormat(selection)), m_frame)
+                            : caret_segment(text, selection);
   top = found.top;
   bottom = found.bottom;
 }

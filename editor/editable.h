@@ -48,8 +48,8 @@ class ExMTextEditable : public OdDbEntity {
   /// Reads the contents into the text, marks its lists and lays it out. The caret stands at 0, behind a label
   /// that stands there. The lists are counted by the first `endOfEdit`.
   void load();
-  /// What measures; kept for the session. Without one `load` measures with the fonts of the database, or those
-  /// of an empty drawing.
+  /// What measures; kept for the session. Without one `load` measures with the fonts of the database, or
+  /// those of an empty drawing.
   void setFinder(std::shared_ptr<const mtext::string_size_finder> finder) { m_finder = std::move(finder); }
   const mtext::string_size_finder& finder() const { return *m_finder; }
   /// The alphabets of lettered lists, for the next `load`. A new text has those of the application's

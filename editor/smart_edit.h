@@ -63,8 +63,8 @@ class smart_edit : public MTextEditor {
   // ---- session_recovery.cpp
 
   /// A message broke off its handler. The text goes back to the state before it if a step was stored since
-  /// there were `steps_before`; in the middle of a run it stays as it is, as long as it is sound. The reason is
-  /// told in one sentence, and the session goes on.
+  /// there were `steps_before`; in the middle of a run it stays as it is, as long as it is sound. The reason
+  /// is told in one sentence, and the session goes on.
   void recover(unsigned steps_before, const std::exception& error);
 
   /// Opens or continues a run of edits of one kind, in front of the edit.
