@@ -50,11 +50,13 @@ def pieces(text, size=40):
 
 
 def edit_sequence():
-    """Each text is appended piece by piece; steps as they come follow."""
-    append = bytes([0, 1, 0])
+    """Each text is appended piece by piece; steps as they come follow, or places where a piece is typed over what stands there."""
+    append, type_over = bytes([0, 1, 0]), bytes([0, 7])
     for text in texts():
         written = b"".join(append + bytes([len(piece)]) + piece for piece in pieces(text))
         yield spread(text, 7) + written + spread(text + b"steps", 60)
+        typed = b"".join(type_over + spread(text + piece, 2) + bytes([0, len(piece)]) + piece for piece in pieces(text))
+        yield bytes([0, 1, 0, 0, 0, 0, 0]) + written + typed
 
 
 def letters_json():
