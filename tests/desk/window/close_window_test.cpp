@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QTimer>
@@ -11,7 +12,6 @@
 #include "host/command_factory.h"
 #include "host/profile.h"
 #include "host/prompt.h"
-#include "tests/desk/window/offscreen.h"
 
 namespace {
 
@@ -60,7 +60,6 @@ MainWindow* mainWindow() {
 }  // namespace
 
 TEST(CloseWindow, over_changes_asks_once_and_cancel_stays_where_one_was) {
-  offscreenApplication();
   HostMemoryProfile profile;
   WindowDesk desk(profile);
   AskingCommand::s_desk = &desk;

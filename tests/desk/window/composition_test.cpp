@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTimer>
@@ -12,7 +13,6 @@
 #include "host/profile.h"
 #include "mtext/entity/mtext_layout.h"
 #include "od/db/OdDbBlockTableRecord.h"
-#include "tests/desk/window/offscreen.h"
 #include "ui/resources/strings.h"
 
 namespace {
@@ -20,7 +20,6 @@ namespace {
 /// A session in the window on a text "ab", as a command would have it.
 struct WindowSession : testing::Test {
   WindowSession() {
-    offscreenApplication();
     resources::register_strings();
     desk.emplace(profile);
     OdDbDatabase& database = desk->document().database();
