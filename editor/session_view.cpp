@@ -15,6 +15,10 @@ editing::shown_text smart_edit::shownText() const {
   for (const OdGePoint2d& end : {shown.caret_top, shown.caret_bottom})
     shown.extents.addPoint({end.x, end.y, 0});
   shown.extents_and_tools = shown.extents;
+  const micui::extents tools = m_gadgets.reach();
+  if (tools.is_empty()) return shown;
+  shown.extents_and_tools.addPoint({tools.min_x, tools.min_y, 0});
+  shown.extents_and_tools.addPoint({tools.max_x, tools.max_y, 0});
   return shown;
 }
 
