@@ -25,10 +25,6 @@ class gadget_tree {
   micui::extents reach() const;
 
  private:
-  /// Puts ruler and handles on top of a text that hangs above its origin; the boxes of the text itself stand
-  /// where they are.
-  void lift_to_text() const;
-
   const ExMTextEditable* m_text = nullptr;
   OdSmartPtr<mtext::editor> m_root;
 };

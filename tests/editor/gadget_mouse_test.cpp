@@ -202,16 +202,3 @@ TEST(GadgetMouse, a_press_meets_the_handles_at_the_size_that_the_view_shows_them
   hand.drag({43, 3.2}, {25, 3.2});
   EXPECT_EQ(hand.columns().width, 25) << "the width sizer is twice as large now";
 }
-
-TEST(GadgetMouse, the_ruler_stands_on_top_of_a_text_without_a_height_and_below_one_attached_by_its_bottom) {
-  for (const auto attachment : {OdDb::kTopLeft, OdDb::kMiddleLeft, OdDb::kBottomLeft}) {
-    mouse_at_work hand;
-    hand.text->setContents(u"a\\Pb\\Pc");
-    hand.text->setAttachment(attachment);
-    hand.begin();
-    const double top = hand.session->editable().text().columns.front().y;
-    const double ruler = attachment == OdDb::kBottomLeft ? -1.6 : top + 1.6;
-    hand.drag({5, ruler}, {5, ruler});
-    EXPECT_EQ(hand.tabs(), at{2}) << attachment;
-  }
-}
