@@ -31,6 +31,8 @@ ScriptDesk::ScriptDesk(OdDbDatabasePtr drawing, Script script, ScriptCommandLine
   m_events.setSource(m_source);
   m_window.setSource(m_source);
   m_view->gsView().setDeviceRect(kPixels);
+  // Nobody looks on: the points of a script are points of the drawing, also within a text.
+  m_profile.setNumber(u"Text", u"Rotate", 0);
   show(std::move(drawing));
 }
 

@@ -57,6 +57,15 @@ TEST(RunScript, escape_cancels_a_command_and_nothing_stays_unanswered) {
   EXPECT_EQ(runLines("Zoom\nWindow\n@key Esc\n").exit_code, 0);
 }
 
+TEST(RunScript, a_point_within_a_text_is_one_of_the_drawing_however_small_the_drawing_is_seen) {
+  sampleCopy();
+  const ProgramRun run = runLines(
+      "MTextEdit\n@click 14950,7350\n@press 14950,7100\n@release 14950,7100\n@type XYZ\n@key Ctrl+Enter\n",
+      "-o pressed.dxf");
+  ASSERT_EQ(run.exit_code, 0);
+  EXPECT_THAT(runProgram("text pressed.dxf", {}).out, HasSubstr("Doors\\nXYZMark"));
+}
+
 TEST(RunScript, save_keeps_the_old_drawing_beside) {
   const auto drawing = sampleCopy();
   EXPECT_EQ(runLines("Save\n").exit_code, 0);
