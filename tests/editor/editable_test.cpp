@@ -58,9 +58,12 @@ TEST(Editable, reading_takes_the_place_of_the_text_before) {
 
 TEST(Editable, is_found_by_its_own_class_and_by_those_above_it_and_by_no_other) {
   const auto text = new_editable();
-  EXPECT_EQ(text->queryX(ExMTextEditable::desc()), text.get());
-  EXPECT_EQ(text->queryX(OdDbEntity::desc()), text.get());
-  EXPECT_EQ(text->queryX(OdDbMText::desc()), nullptr);
+  const auto found_as = [&](const OdRxClass* wanted) {
+    return OdSmartPtr<OdRxObject>(text->queryX(wanted), kOdRxObjAttach).get();
+  };
+  EXPECT_EQ(found_as(ExMTextEditable::desc()), text.get());
+  EXPECT_EQ(found_as(OdDbEntity::desc()), text.get());
+  EXPECT_EQ(found_as(OdDbMText::desc()), nullptr);
 }
 
 TEST(Editable, writes_its_marker_its_contents_and_its_height_to_dxf) {
