@@ -19,7 +19,7 @@ class Display:
     def __init__(self, size="1280x800"):
         needed("Xvfb")
         reading, writing = os.pipe()
-        command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp"]
+        command = ["Xvfb", "-displayfd", str(writing), "-screen", "0", size + "x24", "-nolisten", "tcp", "-noreset"]
         self.server = subprocess.Popen(command, pass_fds=[writing], stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as answer:
