@@ -1,6 +1,5 @@
 #include "commands/mtext_create.h"
 #include "editor/current_space.h"
-#include "host/application.h"
 #include "host/document.h"
 #include "host/exports.h"
 #include "host/prompt.h"
@@ -9,7 +8,7 @@
 
 int CMTCreateCmd::run() {
   setStatus(kCommandRunning);
-  HostDocument* document = host::application() ? host::application()->activeDocument() : nullptr;
+  HostDocument* document = host::active_document();
   if (!document) return setStatus(kCommandDone);
   new_mtext_outcome outcome;
   if (newMText(*document, {}, outcome)) {

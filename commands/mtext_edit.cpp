@@ -2,7 +2,6 @@
 
 #include "commands/session_loop.h"
 #include "editor/smart_edit.h"
-#include "host/application.h"
 #include "host/document.h"
 #include "host/exports.h"
 #include "host/prompt.h"
@@ -44,7 +43,7 @@ int editMTextById(const OdDbObjectId& id, HostDocument& document,
 
 int CMTextEditCmd::run() {
   setStatus(kCommandRunning);
-  HostDocument* document = host::application() ? host::application()->activeDocument() : nullptr;
+  HostDocument* document = host::active_document();
   if (!document) return setStatus(kCommandDone);
   try {
     return setStatus(edit(*document));

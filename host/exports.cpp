@@ -1,5 +1,7 @@
 #include "host/exports.h"
 
+#include "host/application.h"
+
 #include <dlfcn.h>
 
 #include <string>
@@ -72,6 +74,11 @@ bool register_command(std::u16string_view name, CommandCreator creator, std::u16
 HostApplication* application() {
   const auto get = reinterpret_cast<HostApplication* (*)()>(host_function(kHostApplication));
   return get ? get() : nullptr;
+}
+
+HostDocument* active_document() {
+  HostApplication* running = application();
+  return running ? running->activeDocument() : nullptr;
 }
 
 void update_now() {

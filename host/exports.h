@@ -6,6 +6,7 @@
 #include "host/command_factory.h"
 
 class HostApplication;
+class HostDocument;
 
 /// The road from a module to the application that loaded it, over four exports of the main module:
 /// "GetMainDllNameW", "GetMainDllInstanceEx", "new_ICmdFactory" and "get_host_funcptr".
@@ -54,6 +55,8 @@ bool register_command(std::u16string_view name, CommandCreator creator, std::u16
 
 /// The running application, by way of "get_host_funcptr" each time; null without one.
 HostApplication* application();
+/// The document that commands work on; null without an application or a document.
+HostDocument* active_document();
 /// Asks the application to paint now; nothing happens without one.
 void update_now();
 
