@@ -49,15 +49,4 @@ void ExMTextEditable::setAttachment(int attachment) {
   m_layout_dirty = true;
 }
 
-OdGeExtents3d ExMTextEditable::textExtents() const {
-  OdGeExtents3d box;
-  for (const auto& line : m_text.lines) {
-    box.addPoint({line.x, line.y + line.size.above, 0});
-    box.addPoint({line.x, line.y - line.size.below, 0});
-    if (line.last == line.first) continue;
-    const auto& last = m_text.parts[line.last - 1];
-    // A line end has a width for the eye's sake alone; it belongs to no text's extents.
-    box.addPoint({mtext::is_terminator(last) ? last.x : last.x + last.size.advance, line.y, 0});
-  }
-  return box;
-}
+OdGeExtents3d ExMTextEditable::textExtents() const { return mtext::line_extents(m_text); }

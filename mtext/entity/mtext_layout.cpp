@@ -56,6 +56,15 @@ OdGeVector2d column_box(const geom_multitext& text) {
           *std::max_element(columns.heights.begin(), columns.heights.end())};
 }
 
+OdGeExtents3d line_extents(const geom_multitext& text) {
+  OdGeExtents3d box;
+  for (const geom_line& line : text.lines) {
+    box.addPoint({line.x, line.y + line.size.above, 0});
+    box.addPoint({right_end(text, line), line.y - line.size.below, 0});
+  }
+  return box;
+}
+
 double last_line_leading(const geom_multitext& text) {
   const geom_column* column = highest_column(text);
   const geom_line* line = column ? last_line_of(text, *column) : nullptr;
@@ -75,12 +84,8 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
   const auto kept = laid_out(text);
   const geom_multitext& laid = *kept;
   if (laid.lines.empty()) return {};
-  const geom_line& first = laid.lines.front();
-  OdGePoint2d low{first.x, first.y}, high{first.x, first.y};
-  for (const geom_line& line : laid.lines) {
-    low = {std::min(low.x, line.x), std::min(low.y, line.y - line.size.below)};
-    high = {std::max(high.x, right_end(laid, line)), std::max(high.y, line.y + line.size.above)};
-  }
+  const OdGeExtents3d box = line_extents(laid);
+  const OdGePoint2d low{box.minPoint().x, box.minPoint().y}, high{box.maxPoint().x, box.maxPoint().y};
   const OdGeVector2d offset = origin_offset(laid);
   const double height = highest_column(laid)->height - last_line_leading(laid);
   return {high.x - low.x, height, low + offset, high + offset};

@@ -4,6 +4,7 @@
 
 #include "mtext/geom_multitext.h"
 #include "od/db/OdDbMTextLayout.h"
+#include "od/ge/OdGeExtents3d.h"
 
 namespace mtext {
 
@@ -21,6 +22,10 @@ class mtext_layout : public OdDbMTextLayout {
 /// Width and height of the box that a text's columns are set to: of all columns that its settings or its
 /// layout have, and of the highest of them. 0 where none is set.
 OdGeVector2d column_box(const geom_multitext& text);
+
+/// Box of the lines of a laid-out text in its own coordinates: from the ascent of the highest to the descent
+/// of the lowest. Line ends have a width for the eye's sake alone and do not count. Without lines not valid.
+OdGeExtents3d line_extents(const geom_multitext& text);
 
 /// How far the highest column of a laid-out text reaches below its last baseline, in drawing units. A column
 /// ends a whole line pitch below its last line's top, but a text is attached by its letters: a bottom
