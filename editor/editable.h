@@ -246,7 +246,7 @@ class ExMTextEditable : public OdDbEntity {
   /// Closes every operation: drops the pending format if the selection moved, counts the lists and lays out
   /// if `relayout` and something asks for it, and tells the watchers of a moved selection.
   void endOfEdit(bool relayout);
-  /// Lays out and recomputes the current formats, whether it is needed or not.
+  /// Lays out all of the text and recomputes the current formats, whether it is needed or not.
   void layOut();
   /// What the edits so far have cost: each of these reads the whole text. A key should cost one of each.
   struct costs {
@@ -281,6 +281,8 @@ class ExMTextEditable : public OdDbEntity {
   /// one, unless `m_layout_dirty` asks for all of it.
   void noteEdit(std::size_t at, std::size_t count, bool paragraph_ends);
   void recomputeCurrentFormats();
+  /// The text has just been laid out: nothing asks for it any more.
+  void takeLayout();
   /// Marks all lists anew, counts them and writes their labels.
   void renumber();
   /// Erases the label of the paragraph that begins at `start`, with its indents and tabs, if there is one.

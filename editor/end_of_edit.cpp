@@ -26,10 +26,11 @@ void ExMTextEditable::recomputeCurrentFormats() {
 }
 
 void ExMTextEditable::layOut() {
-  if (m_edit && !m_layout_dirty)
-    mtext::dispose(m_text, *m_edit);
-  else
-    mtext::dispose(m_text);
+  mtext::dispose(m_text);
+  takeLayout();
+}
+
+void ExMTextEditable::takeLayout() {
   m_edit.reset();
   ++m_costs.layouts;
   m_frame.leading = mtext::last_line_leading(m_text);
@@ -55,7 +56,12 @@ void ExMTextEditable::endOfEdit(bool relayout) {
   if (relayout) {
     if (m_numbering_dirty) renumber();
     if (m_finder && editing::clean_labels(m_text, *m_finder)) m_layout_dirty = true;
-    if (m_layout_dirty || m_edit) layOut();
+    if (m_layout_dirty) {
+      layOut();
+    } else if (m_edit) {
+      mtext::dispose(m_text, *m_edit);
+      takeLayout();
+    }
   }
   if (m_composed) displayComposition();
   if (moved) notifyWatchers();

@@ -1,5 +1,4 @@
 #include "editor/smart_edit.h"
-#include "host/application.h"
 #include "host/document.h"
 #include "host/exports.h"
 #include "host/prompt.h"
@@ -16,9 +15,7 @@ bool is_sound(const mtext::geom_multitext& text) {
 }
 
 void tell(std::u16string_view sentence) {
-  HostApplication* application = host::application();
-  HostDocument* document = application ? application->activeDocument() : nullptr;
-  if (document) document->prompt().refuse(sentence);
+  if (HostDocument* document = host::active_document()) document->prompt().refuse(sentence);
 }
 
 }  // namespace
@@ -29,8 +26,7 @@ void smart_edit::recover(unsigned steps_before, const std::exception& error) {
   m_typed.forget();
   const bool has_state_before = m_undo.undo_count() > steps_before;
   if (has_state_before || !is_sound(m_editable->text())) m_undo.take_back(*m_editable);
-  // What was begun may not have been noted as an edit, so all of the text is laid out.
-  m_editable->setAttachment(m_editable->attachment());
+  // What was begun may not have been noted as an edit.
   m_editable->layOut();
   m_editable->notifyWatchers();
   repaint(redraw_request::kGadgets | redraw_request::kText);
