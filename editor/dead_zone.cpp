@@ -12,8 +12,8 @@ constexpr double kMargin = 0.005;
 
 void dead_zone::follow(double caret, double view_size) {
   const double half = view_size * kHalfZone;
-  if (caret < m_center - half) m_center = caret + half;
-  if (caret > m_center + half) m_center = caret - half;
+  if (caret < center() - half) m_center = caret + half;
+  if (caret > center() + half) m_center = caret - half;
 }
 
 double pull_to_box(double zone_center, double box_center, double box_size, double view_size) {

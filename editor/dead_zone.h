@@ -1,18 +1,23 @@
 #pragma once
 
+#include <optional>
+
 namespace editing {
 
 /// The stretch of one axis in which the caret may move without moving what is shown.
 class dead_zone {
  public:
-  double center() const { return m_center; }
-  void set_center(double center) { m_center = center; }
+  double center() const { return m_center.value_or(0); }
+  /// Puts the zone around the place where the caret is first seen; later calls change nothing.
+  void begin_at(double caret) {
+    if (!m_center) m_center = caret;
+  }
   /// Moves the zone just as far as the caret pushes it. The zone is three eighths of `view_size` to either
   /// side of its centre.
   void follow(double caret, double view_size);
 
  private:
-  double m_center = 0;
+  std::optional<double> m_center;
 };
 
 /// How far what is centred at `zone_center` has to be moved on one axis so that a view of `view_size` shows

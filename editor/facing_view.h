@@ -25,7 +25,4 @@ OdGeMatrix3d facing_transform(const text_frame& frame, const screen_axes& axes, 
 OdGeVector3d facing_shift(const OdGsView& view, const shown_text& text, const screen_axes& axes,
                           const view_reading& reading, dead_zones& zones);
 
-/// The caret's middle in pixels, as it is seen through `transform`.
-OdGePoint2d caret_pixel(const OdGsView& view, const shown_text& text, const OdGeMatrix3d& transform);
-
 }  // namespace editing

@@ -13,6 +13,7 @@ constexpr double kMarginAlong = 2;
 /// Where the view is to look on one axis. A box that is wider than the view follows the caret's zone.
 double target_on_axis(dead_zone& zone, double caret, double box_center, double box_size, double margin,
                       double view_size) {
+  zone.begin_at(caret);
   double target = box_center;
   if (box_size > view_size) {
     zone.follow(caret, view_size);

@@ -35,23 +35,10 @@ view_policy::outcome view_policy::text_changed(OdGsView& view, const shown_text&
 void view_policy::place_view(OdGsView& view, const shown_text& text, const view_reading& reading) {
   m_edit_transform = OdGeMatrix3d();
   m_is_facing = false;
-  if (m_zones_unset) {
-    m_zones.x.set_center(text.caret_middle().x);
-    m_zones.y.set_center(text.caret_middle().y);
-  }
-  m_zones_unset = false;
   editing::move_view(view, text, reading, m_zones);
 }
 
 void view_policy::face_screen(const OdGsView& view, const shown_text& text, const view_reading& reading) {
-  if (m_zones_unset) {
-    const OdGeMatrix3d unmoved =
-        editing::facing_transform(text.frame, m_axes_at_start, reading.magnification, {0, 0, 0});
-    const OdGePoint2d caret = editing::caret_pixel(view, text, unmoved);
-    m_zones.x.set_center(caret.x - view.deviceRect().left);
-    m_zones.y.set_center(caret.y - view.deviceRect().top);
-  }
-  m_zones_unset = false;
   const OdGeVector3d shift = editing::facing_shift(view, text, m_axes_at_start, reading, m_zones);
   m_edit_transform = editing::facing_transform(text.frame, m_axes_at_start, reading.magnification, shift);
   m_is_facing = true;

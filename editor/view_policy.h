@@ -37,6 +37,4 @@ class view_policy {
   bool m_is_facing = false;
   /// Nothing has been moved yet, so what can be read is left alone.
   bool m_untouched = true;
-  /// The zones have no centre yet.
-  bool m_zones_unset = true;
 };
