@@ -23,9 +23,7 @@ void gadget_mouse::drag_box(const OdGePoint2d& point) {
   if (path_holds(u"width sizer")) change_columns(mtext::with_overall_width(root, at));
   if (path_holds(u"dot")) change_columns(mtext::with_column_width(root, at));
   const mtext::column* column = column_in(m_path);
-  if (column && path_holds(u"height sizer"))
-    change_columns(mtext::with_column_height(root, column->index, at));
-  if (column && path_holds(u"height edge"))
+  if (column && (path_holds(u"height sizer") || path_holds(u"height edge")))
     change_columns(mtext::with_column_height(root, column->index, at));
 }
 
