@@ -18,17 +18,6 @@ tab_stop read_tab(const json& value) {
   return stop;
 }
 
-template <typename Value>
-void read(const json& object, const char* name, std::optional<Value>& target) {
-  auto found = object.find(name);
-  if (found != object.end()) target = found->get<Value>();
-}
-
-template <typename Value>
-void write(json& object, const char* name, const std::optional<Value>& value) {
-  if (value) object[name] = *value;
-}
-
 }  // namespace
 
 line_spacing read_spacing(const json& value) {

@@ -28,20 +28,9 @@ json write_color(const text_color& color) {
           {"blue", color.blue}};
 }
 
-template <typename Value>
-void read(const json& object, const char* name, std::optional<Value>& target) {
-  auto found = object.find(name);
-  if (found != object.end()) target = found->get<Value>();
-}
-
 void read(const json& object, const char* name, boost::logic::tribool& target) {
   auto found = object.find(name);
   if (found != object.end()) target = found->get<bool>();
-}
-
-template <typename Value>
-void write(json& object, const char* name, const std::optional<Value>& value) {
-  if (value) object[name] = *value;
 }
 
 void write(json& object, const char* name, boost::logic::tribool value) {
