@@ -1,5 +1,7 @@
 #include "editor/text_pieces.h"
 
+#include <algorithm>
+
 namespace editing {
 
 namespace {
@@ -36,18 +38,14 @@ bool same(const mtext::string_metrics& a, const mtext::string_metrics& b) {
          a.ink_top == b.ink_top && a.ink_bottom == b.ink_bottom;
 }
 
-bool same(const std::vector<mtext::format::tab_stop>& a, const std::vector<mtext::format::tab_stop>& b) {
-  if (a.size() != b.size()) return false;
-  for (std::size_t i = 0; i < a.size(); ++i)
-    if (a[i].position != b[i].position || a[i].kind != b[i].kind || a[i].decimal_char != b[i].decimal_char)
-      return false;
-  return true;
+bool same(const format::tab_stop& a, const format::tab_stop& b) {
+  return a.position == b.position && a.kind == b.kind && a.decimal_char == b.decimal_char;
 }
 
 bool same(const format::paragraph& a, const format::paragraph& b) {
   return a.relative == b.relative && a.indent == b.indent && a.left == b.left && a.right == b.right &&
          a.before == b.before && a.after == b.after && a.alignment == b.alignment && a.spacing == b.spacing &&
-         same(a.tabs, b.tabs);
+         std::ranges::equal(a.tabs, b.tabs, [](const auto& x, const auto& y) { return same(x, y); });
 }
 
 bool same_stack(const mtext::geom_stack& a, const mtext::geom_stack& b) {
