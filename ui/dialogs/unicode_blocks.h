@@ -1,0 +1,21 @@
+#pragma once
+
+#include <string>
+#include <vector>
+
+/// A range of characters that belong together.
+struct unicode_block {
+  std::u16string name;  ///< in English
+  char32_t first;
+  char32_t last;  ///< belongs to the block
+};
+
+namespace dialogs {
+
+/// Every block that has characters to see, in the order of their numbers.
+const std::vector<unicode_block>& unicode_blocks();
+
+/// The characters of a block that can be seen and are assigned.
+std::vector<char32_t> characters_of(const unicode_block& block);
+
+}  // namespace dialogs

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "mtext/format_string.h"
+#include "ui/controls/font_word.h"
+
+class OdFontLibrary;
+
+namespace fonts {
+
+/// One font that a text may use.
+struct font_row {
+  std::u16string name;    ///< a typeface's family name, or the file name of a shape font
+  font_word word = 0;     ///< kind, pitch and character set
+  bool installed = true;  ///< false: something stands in for it on this machine
+
+  friend bool operator==(const font_row&, const font_row&) = default;  ///< field by field
+};
+
+/// The fonts of this machine and of the library's folders: shape fonts by file name, then typefaces by name.
+std::vector<font_row> font_rows(const OdFontLibrary& library);
+
+/// The row of a font that a text uses and the machine does not have.
+font_row missing_row(const mtext::format::string& format);
+
+/// Font, kind, pitch and character set of a row, as a change of a text's format.
+mtext::format::string_partial format_of(const font_row& row);
+
+}  // namespace fonts
