@@ -13,7 +13,8 @@ class OdDbText : public OdDbEntity {
   OdString textString() const;
   void setTextString(const OdString& text);
 
-  /// Left end of the baseline.
+  /// The end of the baseline at which the text begins, as the file tells it. Of a justified text programs
+  /// with other fonts have worked it out, or none has; after `adjustAlignment` it is where the text is drawn.
   OdGePoint3d position() const;
   void setPosition(const OdGePoint3d& position);
   /// The point that the justification refers to; has a meaning unless it is left and baseline.
@@ -56,7 +57,8 @@ class OdDbText : public OdDbEntity {
   /// Works out position from alignment point by the measured text; for aligned and fitted text rotation, and
   /// height or width factor, from both. A null database means the text's own.
   void adjustAlignment(OdDbDatabase* database = nullptr);
-  /// Corners of the text's box in the world: top left, top right, bottom left, bottom right.
+  /// Corners of the text's box in the world: top left, top right, bottom left, bottom right. Left is where
+  /// the text begins, also in one that is written backwards.
   void getBoundingPoints(OdArray<OdGePoint3d>& points) const;
 
   void setDatabaseDefaults(OdDbDatabase* database) override;

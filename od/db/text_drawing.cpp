@@ -48,9 +48,8 @@ void OdDbText::getBoundingPoints(OdArray<OdGePoint3d>& points) const {
   const OdGeMatrix3d toWorld = OdGeMatrix3d::planeToWorld(normal()) *
                                OdGeMatrix3d::translation(placement.position.asVector()) *
                                OdGeMatrix3d::rotation(placement.rotation, OdGeVector3d::kZAxis);
-  const double left = std::min(0.0, placement.advance), right = std::max(0.0, placement.advance);
   for (const double y : {high, low}) {
-    for (const double x : {left, right}) points.append(toWorld * OdGePoint3d{x, y, 0});
+    for (const double x : {0.0, placement.spanEnd}) points.append(toWorld * OdGePoint3d{x, y, 0});
   }
 }
 

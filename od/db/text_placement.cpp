@@ -23,11 +23,37 @@ OdGiTextStyle styleOf(const OdDbText& text, OdDbDatabase& database) {
   return style;
 }
 
+/// Ink and pen of `string` as `style` draws it.
+struct Measured {
+  OdGePoint3d inkMinimum, inkMaximum, end;
+
+  Measured(const OdGiTextStyle& style, const OdString& string) {
+    OdGiDefaultContext().textExtentsBox(style, string.c_str(), string.getLength(), 0, inkMinimum, inkMaximum,
+                                        end);
+  }
+};
+
+/// The style without slant and mirrors, which move ink and change no length.
+OdGiTextStyle upright(OdGiTextStyle style) {
+  style.setObliquingAngle(0);
+  style.setBackward(false);
+  style.setUpsideDown(false);
+  return style;
+}
+
 void measure(OdDbTextPlacement& placement, const OdString& string) {
-  OdGePoint3d end;
-  OdGiDefaultContext().textExtentsBox(placement.style, string.c_str(), string.getLength(), 0,
-                                      placement.inkMinimum, placement.inkMaximum, end);
-  placement.advance = end.x;
+  const OdGiTextStyle& style = placement.style;
+  const Measured drawn(style, string);
+  placement.inkMinimum = drawn.inkMinimum;
+  placement.inkMaximum = drawn.inkMaximum;
+  placement.spanStart = 0;
+  placement.spanEnd = drawn.end.x;
+  if (!style.font()->isShapeFont()) return;
+  // The advance of a shape font ends with the gap to the next letter: what counts is where the pen has drawn.
+  const Measured straight(upright(style), string);
+  const double side = style.isBackward() ? -1 : 1;
+  placement.spanStart = side * straight.inkMinimum.x;
+  placement.spanEnd = side * straight.inkMaximum.x;
 }
 
 /// The deepest line of the font, below the baseline. Typefaces and shape fonts give it different signs.
@@ -36,46 +62,49 @@ double descent(const OdGiTextStyle& style) {
   return std::abs(font.descender()) * style.textSize() / font.nominalHeight();
 }
 
-/// From the left end of the baseline to the point that the justification means.
-OdGeVector3d anchorOffset(const OdDbText& text, const OdDbTextPlacement& placement) {
-  OdGeVector3d offset;
-  switch (text.horizontalMode()) {
-    case OdDb::kTextCenter:
-      offset.x = placement.advance / 2;
-      break;
-    case OdDb::kTextRight:
-      offset.x = placement.advance;
-      break;
-    case OdDb::kTextMid:
-      return (placement.inkMinimum.asVector() + placement.inkMaximum.asVector()) * 0.5;
-    default:
-      break;
-  }
-  switch (text.verticalMode()) {
-    case OdDb::kTextBottom:
-      offset.y = -descent(placement.style);
-      break;
-    case OdDb::kTextVertMid:
-      offset.y = text.height() / 2;
-      break;
-    case OdDb::kTextTop:
-      offset.y = text.height();
-      break;
-    default:
-      break;
-  }
-  return offset;
+/// From the start of the text along its baseline to the point that the justification means.
+double anchorAlong(OdDb::TextHorzMode mode, const OdDbTextPlacement& placement) {
+  if (mode == OdDb::kTextCenter) return (placement.spanStart + placement.spanEnd) / 2;
+  return mode == OdDb::kTextRight ? placement.spanEnd : 0;
 }
 
-/// Stretches the text from `from` to `to`: by its height when aligned, by its width factor when fitted.
+/// From the baseline up to that point in a text that stands upright.
+double anchorRise(OdDb::TextVertMode mode, const OdGiTextStyle& style) {
+  switch (mode) {
+    case OdDb::kTextBottom:
+      return -descent(style);
+    case OdDb::kTextVertMid:
+      return style.textSize() / 2;
+    case OdDb::kTextTop:
+      return style.textSize();
+    default:
+      return 0;
+  }
+}
+
+/// From the start of the text to the point that the justification means, not yet rotated.
+OdGeVector3d anchorOffset(const OdDbText& text, const OdDbTextPlacement& placement) {
+  const OdDb::TextHorzMode mode = text.horizontalMode();
+  if (mode == OdDb::kTextMid)
+    return (placement.inkMinimum.asVector() + placement.inkMaximum.asVector()) * 0.5;
+  const OdGiTextStyle& style = placement.style;
+  const double rise = anchorRise(text.verticalMode(), style);
+  // A point above the baseline leans over with slanted letters; the one below it stays.
+  const double lean = rise > 0 ? rise * std::tan(style.obliquingAngle()) : 0;
+  return {anchorAlong(mode, placement) + (style.isBackward() ? -lean : lean),
+          style.isUpsideDown() ? -rise : rise, 0};
+}
+
+/// Stretches the text from `from` to `to`: by its height when aligned, by its width factor when fitted. A
+/// backward text begins at `from` too, so that it runs against its own direction.
 void stretch(const OdDbText& text, OdDbDatabase& database, const OdGePoint3d& from, const OdGePoint3d& to,
              const OdString& string, OdDbTextPlacement& placement) {
-  const OdGeVector3d way = to - from;
+  const OdGeVector3d way = placement.style.isBackward() ? from - to : to - from;
   placement.position = from;
   const double length = std::hypot(way.x, way.y);
-  if (length == 0 || placement.advance == 0) return;
+  if (length == 0 || placement.spanEnd == 0) return;
   placement.rotation = std::atan2(way.y, way.x);
-  const double factor = length / std::abs(placement.advance);
+  const double factor = length / std::abs(placement.spanEnd);
   if (text.horizontalMode() == OdDb::kTextAlign)
     placement.style.setTextSize(placement.style.textSize() * factor);
   else

@@ -128,3 +128,85 @@ TEST_F(TextAlignment, an_empty_text_has_a_box_of_its_height_and_no_width) {
   EXPECT_EQ(corners[0], (OdGePoint3d{0, 10, 0}));
   EXPECT_EQ(corners[3], (OdGePoint3d{0, 0, 0}));
 }
+
+TEST_F(TextAlignment, a_shape_font_is_centred_and_ended_by_its_ink) {
+  const auto style = odOpen<OdDbTextStyleTableRecord>(database->getTEXTSTYLE(), OdDb::kForWrite);
+  style->setFont(u"", false, false, 0, 0);
+  style->setFileName(u"txt");
+  const auto ink = [this] {
+    OdGiRecorder recorder;
+    recorder.record(*text);
+    return recorder.extents();
+  };
+  place(OdDb::kTextRight, OdDb::kTextBase, {30, 0, 0});
+  EXPECT_NEAR(ink().maxPoint().x, 30, 1e-9);
+  place(OdDb::kTextCenter, OdDb::kTextBase, {30, 0, 0});
+  EXPECT_NEAR(ink().minPoint().x + ink().maxPoint().x, 60, 1e-9);
+  text->setPosition({10, 0, 0});
+  place(OdDb::kTextFit, OdDb::kTextBase, {50, 0, 0});
+  EXPECT_NEAR(ink().maxPoint().x, 50, 1e-9);
+}
+
+TEST_F(TextAlignment, a_point_above_the_baseline_leans_over_with_slanted_letters) {
+  place(OdDb::kTextLeft, OdDb::kTextTop, {0, 0, 0});
+  const double upright = text->position().x;
+  text->setOblique(std::numbers::pi / 4);
+  place(OdDb::kTextLeft, OdDb::kTextTop, {0, 0, 0});
+  EXPECT_NEAR(text->position().x, upright - 10, 1e-9);
+  place(OdDb::kTextLeft, OdDb::kTextVertMid, {0, 0, 0});
+  EXPECT_NEAR(text->position().x, upright - 5, 1e-9);
+  place(OdDb::kTextLeft, OdDb::kTextBottom, {0, 0, 0});
+  EXPECT_NEAR(text->position().x, upright, 1e-9);
+}
+
+TEST_F(TextAlignment, a_backward_text_runs_from_its_position_against_its_direction) {
+  place(OdDb::kTextRight, OdDb::kTextTop, {0, 0, 0});
+  const double width = right() - left();
+  text->mirrorInX(true);
+  place(OdDb::kTextRight, OdDb::kTextTop, {0, 0, 0});
+  EXPECT_NEAR(text->position().x, width, 1e-9);
+  EXPECT_NEAR(corners[2].x, width, 1e-9);  // where the text begins
+  EXPECT_NEAR(corners[3].x, 0, 1e-9);
+}
+
+TEST_F(TextAlignment, an_upside_down_text_hangs_from_its_baseline) {
+  text->mirrorInY(true);
+  place(OdDb::kTextLeft, OdDb::kTextTop, {0, 0, 0});
+  EXPECT_NEAR(text->position().y, 10, 1e-9);
+  EXPECT_NEAR(corners[2].y, 0, 0.05);  // the top of the letters, which is their lowest end
+}
+
+TEST_F(TextAlignment, a_fitted_backward_text_fills_the_room_between_its_points_too) {
+  text->mirrorInX(true);
+  text->setPosition({100, 0, 0});
+  place(OdDb::kTextFit, OdDb::kTextBase, {20, 0, 0});
+  EXPECT_NEAR(text->rotation(), 0, 1e-12);
+  EXPECT_NEAR(corners[2].x, 100, 1e-9);
+  EXPECT_NEAR(corners[3].x, 20, 1e-9);
+}
+
+TEST_F(TextAlignment, every_justification_puts_its_own_point_of_the_box_on_the_alignment_point) {
+  text->setTextString(u"HH");
+  const double kAlong[] = {0, 0.5, 1};
+  const OdGePoint3d anchor{30, 40, 0};
+  for (const auto vertical : {OdDb::kTextBase, OdDb::kTextVertMid, OdDb::kTextTop}) {
+    for (const auto horizontal : {OdDb::kTextLeft, OdDb::kTextCenter, OdDb::kTextRight}) {
+      if (horizontal == OdDb::kTextLeft && vertical == OdDb::kTextBase) continue;
+      place(horizontal, vertical, anchor);
+      const double up = vertical == OdDb::kTextTop ? 1 : vertical == OdDb::kTextVertMid ? 0.5 : 0;
+      EXPECT_NEAR(left() + kAlong[horizontal] * (right() - left()), anchor.x, 1e-9);
+      EXPECT_NEAR(corners[2].y + up * (corners[0].y - corners[2].y), anchor.y, 0.05);
+    }
+  }
+}
+
+TEST_F(TextAlignment, signs_of_two_percents_are_drawn_as_what_they_stand_for) {
+  const auto shown = [this](const char16_t* string) {
+    text->setTextString(string);
+    text->getBoundingPoints(corners);
+    return right() - left();
+  };
+  EXPECT_DOUBLE_EQ(shown(u"%%d%%p%%c"), shown(u"\u00B0\u00B1\u2205"));
+  EXPECT_DOUBLE_EQ(shown(u"%%065%%%"), shown(u"A%"));
+  EXPECT_DOUBLE_EQ(shown(u"%%uA%%u%%oB"), shown(u"AB"));
+}
