@@ -8,6 +8,10 @@ IEvents* Get_IEvents() {
   return application ? &application->events() : nullptr;
 }
 
+void hostAlert(std::u16string_view text) {
+  if (IEvents* events = Get_IEvents()) events->box(kBoxAlert, text, nullptr, kBoxButtonsOfLevel);
+}
+
 HostBoxText splitBoxText(std::u16string_view text) {
   const std::size_t open = text.find(u'$');
   const bool has_key = open != text.npos && open + 1 < text.size() && text.back() == u'$';

@@ -13,6 +13,9 @@ enum HostBoxAnswer : int { kBoxYes = 1, kBoxNo = 2, kBoxCancel = 3 };
 /// Kinds of box, by their level.
 enum HostBoxLevel : int { kBoxQuestion = 3, kBoxAlert = 12 };
 
+/// Sets of buttons, by their style.
+enum HostBoxStyle : int { kBoxButtonsOfLevel = 7 };
+
 /// The service that asks and alerts in boxes.
 class IEvents {
  public:
@@ -25,6 +28,9 @@ class IEvents {
 
 /// The running application's box service; null if none runs.
 IEvents* Get_IEvents();
+
+/// Tells the user something in an alert of the running application; nothing happens if none runs.
+void hostAlert(std::u16string_view text);
 
 /// A box text with its help key cut off; the key is empty if there is none.
 struct HostBoxText {

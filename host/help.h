@@ -8,6 +8,7 @@
 class IHelpService {
  public:
   virtual ~IHelpService() = default;
+  /// Shows the page of a key; of an empty one the page that all others are reached from.
   virtual void show(std::u16string_view key) = 0;
 };
 

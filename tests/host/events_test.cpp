@@ -7,7 +7,7 @@
 
 namespace {
 
-constexpr int kStyle = 7;
+constexpr int kStyle = kBoxButtonsOfLevel;
 
 TEST(Events, a_help_key_between_dollar_signs_is_cut_off) {
   const HostBoxText text = splitBoxText(u"Do you want to save your changes?$IDH_SAVE$");
@@ -34,6 +34,16 @@ TEST(Events, a_question_without_an_answer_is_cancelled_and_counted) {
   HostAnsweredEvents events;
   EXPECT_EQ(events.box(kBoxQuestion, u"Sure?", nullptr, kStyle), kBoxCancel);
   EXPECT_EQ(events.unanswered(), 1);
+}
+
+TEST(Events, an_alert_is_shown_by_the_running_application) {
+  WindowlessApplication application(OdDbDatabase::createEmpty());
+  hostAlert(u"That is no number.");
+  EXPECT_THAT(application.events().shown(), testing::ElementsAre(u"That is no number."));
+}
+
+TEST(Events, an_alert_is_no_fault_where_no_application_runs) {
+  EXPECT_NO_THROW(hostAlert(u"Nobody sees it."));
 }
 
 TEST(Events, an_alert_uses_up_no_answer) {
