@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "host/command.h"
+#include "commands/document_command.h"
 #include "od/db/OdDbMText.h"
 #include "od/ge/OdGePoint2d.h"
 
@@ -27,7 +27,7 @@ struct new_mtext_outcome {
 bool newMText(HostDocument& document, const new_mtext_request& request, new_mtext_outcome& outcome);
 
 /// The command MTextCreate.
-class CMTCreateCmd : public CCmdProcess {
- public:
-  int run() override;
+class CMTCreateCmd : public CDocumentCommand {
+ protected:
+  int runIn(HostDocument& document) override;
 };

@@ -1,20 +1,15 @@
 #include "commands/mtext_create.h"
 #include "editor/current_space.h"
 #include "host/document.h"
-#include "host/exports.h"
-#include "host/prompt.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 
-int CMTCreateCmd::run() {
-  setStatus(kCommandRunning);
-  HostDocument* document = host::active_document();
-  if (!document) return setStatus(kCommandDone);
+int CMTCreateCmd::runIn(HostDocument& document) {
   new_mtext_outcome outcome;
-  if (newMText(*document, {}, outcome)) {
-    const OdDbObjectId target = editing::current_space(document->database());
+  if (newMText(document, {}, outcome)) {
+    const OdDbObjectId target = editing::current_space(document.database());
     const auto space = odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
     hostEntUpd(space->appendOdDbEntity(outcome.text.get()));
   }
-  return setStatus(outcome.status);
+  return outcome.status;
 }

@@ -1,27 +1,18 @@
 #include "commands/mtext_edit.h"
 
+#include "commands/locked_layer.h"
 #include "commands/session_loop.h"
 #include "editor/smart_edit.h"
 #include "host/document.h"
-#include "host/exports.h"
 #include "host/prompt.h"
 #include "host/selection_set.h"
 #include "host/translate.h"
-#include "od/base/unicode.h"
-#include "od/db/OdDbLayerTableRecord.h"
 
 namespace {
 
 constexpr int kSelectPrompt = 1035;
 constexpr int kNothingSelected = 1036;
 constexpr int kNotMText = 1037;
-
-bool is_on_locked_layer(const OdDbObjectId& id) {
-  const auto entity = odCast<OdDbEntity>(id.openObject());
-  const OdDbObjectId layer = entity ? entity->layerId() : OdDbObjectId();
-  const auto record = layer ? odCast<OdDbLayerTableRecord>(layer.openObject()) : OdDbLayerTableRecordPtr();
-  return record && record->isLocked();
-}
 
 }  // namespace
 
@@ -41,19 +32,7 @@ int editMTextById(const OdDbObjectId& id, HostDocument& document,
   return kCommandDone;
 }
 
-int CMTextEditCmd::run() {
-  setStatus(kCommandRunning);
-  HostDocument* document = host::active_document();
-  if (!document) return setStatus(kCommandDone);
-  try {
-    return setStatus(edit(*document));
-  } catch (const OdError& error) {
-    document->prompt().refuse(odToUtf16(error.what()));
-    return setStatus(kCommandDone);
-  }
-}
-
-int CMTextEditCmd::edit(HostDocument& document) {
+int CMTextEditCmd::runIn(HostDocument& document) {
   HostSelectionSet selected = document.pickFirst();
   if (selected.isEmpty()) {
     const int answer = document.prompt().select(host::resource_string(kSelectPrompt), kSelectOne, selected);

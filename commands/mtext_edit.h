@@ -2,7 +2,7 @@
 
 #include <optional>
 
-#include "host/command.h"
+#include "commands/document_command.h"
 #include "od/db/OdDbMText.h"
 
 class HostDocument;
@@ -18,10 +18,7 @@ int editMTextById(const OdDbObjectId& id, HostDocument& document,
                   const std::optional<OdGePoint3d>& caret_at = {});
 
 /// The command MTextEdit.
-class CMTextEditCmd : public CCmdProcess {
- public:
-  int run() override;
-
- private:
-  int edit(HostDocument& document);
+class CMTextEditCmd : public CDocumentCommand {
+ protected:
+  int runIn(HostDocument& document) override;
 };
