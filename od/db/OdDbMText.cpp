@@ -91,6 +91,13 @@ void OdDbMText::setAttachment(OdDb::AttachmentPoint attachment) {
   odSetEmbeddedInteger(record(), 70, attachment);
 }
 
+void OdDbMText::setHorizontalMode(OdDb::TextHorzMode mode) {
+  const bool centred = mode == OdDb::kTextCenter || mode == OdDb::kTextMid;
+  const int column = mode == OdDb::kTextRight ? 2 : centred ? 1 : 0;
+  const int first = (attachment() - OdDb::kTopLeft) / 3 * 3 + OdDb::kTopLeft;
+  setAttachment(static_cast<OdDb::AttachmentPoint>(first + column));
+}
+
 OdDb::FlowDirection OdDbMText::flowDirection() const {
   // Some writers put 0, 2 or 4 here, which say nothing of their own.
   const int value = groups(kMText).integer(72, OdDb::kByStyle);

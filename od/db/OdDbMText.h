@@ -44,6 +44,9 @@ class OdDbMText : public OdDbEntity {
   void setAttachment(OdDb::AttachmentPoint attachment);
   /// The same with the location moved so that the laid-out text stays where it is.
   void setAttachmentMovingLocation(OdDb::AttachmentPoint attachment);
+  /// The column of the attachment, with its row as it is: left, middle or right. Of the modes of single-line
+  /// text, "middle" is the centre and those between two points are left.
+  void setHorizontalMode(OdDb::TextHorzMode mode);
   OdDb::FlowDirection flowDirection() const;
   void setFlowDirection(OdDb::FlowDirection direction);
 

@@ -4,15 +4,15 @@
 #include "commands/mtext_edit.h"
 #include "mtext/entity/mtext_layout.h"
 #include "od/db/OdDbBlockTableRecord.h"
+#include "od/db/OdDbLayerTableRecord.h"
+#include "od/db/OdDbLine.h"
 #include "ui/resources/strings.h"
 
 namespace {
 
-template <class Command>
-int run() {
-  const OdSmartPtr<ICmdProcess> command(new Command, kOdRxObjAttach);
-  const int status = command->run();
-  return status == command->status() ? status : -1;
+OdDbObjectId append(OdDbDatabase& database, OdDbEntity& entity) {
+  const auto space = odCast<OdDbBlockTableRecord>(database.getModelSpaceId().openObject(OdDb::kForWrite));
+  return space->appendOdDbEntity(&entity);
 }
 
 }  // namespace
@@ -29,9 +29,31 @@ OdDbMTextPtr command_run::addText(const OdString& contents, const OdGePoint3d& l
   text->setTextHeight(2.5);
   text->setWidth(40);
   text->setLocation(location);
-  const auto space = odCast<OdDbBlockTableRecord>(database->getModelSpaceId().openObject(OdDb::kForWrite));
-  space->appendOdDbEntity(text.get());
+  append(*database, *text);
   return text;
+}
+
+OdDbTextPtr command_run::addLineOfText(const OdString& string, const OdGePoint3d& position) {
+  auto text = odNew<OdDbText>();
+  text->setDatabaseDefaults(database.get());
+  text->setTextString(string);
+  text->setHeight(2.5);
+  text->setPosition(position);
+  append(*database, *text);
+  return text;
+}
+
+OdDbObjectId command_run::addLine(const OdGePoint3d& from, const OdGePoint3d& to) {
+  auto line = odNew<OdDbLine>();
+  line->setDatabaseDefaults(database.get());
+  line->setStartPoint(from);
+  line->setEndPoint(to);
+  return append(*database, *line);
+}
+
+void command_run::lockLayer() {
+  const auto newest = odCast<OdDbEntity>(entities().back().openObject());
+  odCast<OdDbLayerTableRecord>(newest->layerId().openObject(OdDb::kForWrite))->setIsLocked(true);
 }
 
 void command_run::type(std::u16string_view characters) {

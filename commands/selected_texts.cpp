@@ -1,0 +1,47 @@
+#include "commands/selected_texts.h"
+
+#include "commands/locked_layer.h"
+#include "host/document.h"
+#include "host/prompt.h"
+#include "host/translate.h"
+#include "od/base/unicode.h"
+
+namespace {
+
+constexpr int kSelectTexts = 1069;
+constexpr int kNotTexts = 1070;
+
+/// What of a selection may be changed. The user is told how many entities may not.
+HostSelectionSet without_locked(const HostSelectionSet& picked, HostEdPrompt& prompt) {
+  HostSelectionSet open;
+  for (const OdDbObjectId& id : picked.ids())
+    if (!is_on_locked_layer(id)) open.add(id);
+  const std::size_t locked = picked.ids().size() - open.ids().size();
+  if (locked > 0)
+    prompt.message(Supp_Translate(u"On a locked layer, left out:") + u" " +
+                   odToUtf16(std::to_string(locked)));
+  return open;
+}
+
+}  // namespace
+
+std::optional<HostSelectionSet> ask_for_texts(HostDocument& document) {
+  HostSelectionSet picked;
+  const int answer = document.prompt().select(host::resource_string(kSelectTexts), kSelectMany, picked);
+  if (answer != kAnswerValue) return std::nullopt;
+  return without_locked(picked, document.prompt());
+}
+
+selected_texts open_texts(const HostSelectionSet& selection) {
+  selected_texts texts;
+  for (const OdDbObjectId& id : selection.ids()) {
+    const OdDbObjectPtr object = id.openObject(OdDb::kForWrite);
+    if (const auto single = odCast<OdDbText>(object)) texts.single_line.push_back(single);
+    if (const auto multi = odCast<OdDbMText>(object)) texts.multi_line.push_back(multi);
+  }
+  return texts;
+}
+
+void refuse_without_texts(HostDocument& document) {
+  document.prompt().refuse(host::resource_string(kNotTexts));
+}

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <optional>
+#include <vector>
+
+#include "host/selection_set.h"
+#include "od/db/OdDbMText.h"
+#include "od/db/OdDbText.h"
+
+class HostDocument;
+
+/// Texts that a command changes, open for write, in the order in which they were selected.
+struct selected_texts {
+  std::vector<OdDbTextPtr> single_line;
+  std::vector<OdDbMTextPtr> multi_line;
+
+  bool empty() const { return single_line.empty() && multi_line.empty(); }
+};
+
+/// Asks for entities. Nothing when the selection was cancelled or left empty. Entities on locked layers are
+/// taken out of it, and the user is told how many.
+std::optional<HostSelectionSet> ask_for_texts(HostDocument& document);
+
+/// Opens the texts of a selection; entities of other kinds are left out. Throws what opening throws.
+selected_texts open_texts(const HostSelectionSet& selection);
+
+/// Tells the user that nothing of what was selected is a text of the kind that the command changes.
+void refuse_without_texts(HostDocument& document);

@@ -1,0 +1,45 @@
+#include "commands/tjust_command.h"
+
+#include "commands/justify_in_place.h"
+#include "commands/selected_texts.h"
+#include "editor/current_space.h"
+#include "host/document.h"
+#include "host/prompt.h"
+#include "host/translate.h"
+#include "od/db/OdDbBlockTableRecord.h"
+#include "od/db/OdDbDatabase.h"
+
+namespace {
+
+constexpr int kKeywords = 1085;
+constexpr int kSelectJustification = 1090;
+
+void justify_all(HostDocument& document, const selected_texts& texts, const text_justification& to) {
+  for (const OdDbTextPtr& text : texts.single_line) {
+    justify_in_place(*text, to);
+    document.entityChanged(text->objectId());
+  }
+  for (const OdDbMTextPtr& text : texts.multi_line) {
+    justify_in_place(*text, to);
+    document.entityChanged(text->objectId());
+  }
+}
+
+}  // namespace
+
+int CJust::runIn(HostDocument& document) {
+  const OdDbObjectId target = editing::current_space(document.database());
+  odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
+  const auto selected = ask_for_texts(document);
+  if (!selected) return kCommandCancelled;
+  const selected_texts texts = open_texts(*selected);
+  if (texts.empty()) {
+    refuse_without_texts(document);
+    return kCommandDone;
+  }
+  const int keyword = document.prompt().getKeyword({.prompt = host::resource_string(kSelectJustification),
+                                                    .keywords = host::resource_string(kKeywords),
+                                                    .may_be_empty = true});
+  if (keyword >= 0) justify_all(document, texts, justification_at(keyword));
+  return kCommandDone;
+}
