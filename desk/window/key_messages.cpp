@@ -17,9 +17,11 @@ bool isTypedByAltGr(const QKeyEvent& event) {
          event.text()[0] != QChar(kDeleteCode);
 }
 
-/// The units that arrive as WM_CHAR. A key with Alt is a menu's, and Delete has no character.
+/// The units that arrive as WM_CHAR. A key with Alt is a menu's, and Delete has no character. Tab with Shift
+/// is a key of its own to the toolkit, some systems give it no character.
 QString charactersOf(const QKeyEvent& event) {
   if (event.modifiers() & Qt::AltModifier) return {};
+  if (event.key() == Qt::Key_Backtab) return QStringLiteral("\t");
   const bool isDelete = event.text().size() == 1 && event.text()[0] == QChar(kDeleteCode);
   return isDelete ? QString() : event.text();
 }

@@ -49,6 +49,11 @@ TEST(KeyMessages, a_key_with_alt_is_a_menu_s_and_types_nothing) {
   EXPECT_EQ(pressed(Qt::Key_F, Qt::AltModifier, "f"), "256:70a");
 }
 
+TEST(KeyMessages, tab_with_shift_types_a_tab_whether_the_system_gives_it_a_character_or_not) {
+  EXPECT_EQ(pressed(Qt::Key_Backtab, Qt::ShiftModifier, ""), "256:9s 258:9s");
+  EXPECT_EQ(pressed(Qt::Key_Backtab, Qt::ShiftModifier, "\t"), "256:9s 258:9s");
+}
+
 TEST(KeyMessages, composed_text_is_a_key_for_each_character) {
   EXPECT_EQ(described(composedMessages(QString::fromUtf8("é😀"))),
             "256:231 258:233 257:231 256:231 258:55357 258:56832 257:231");

@@ -86,6 +86,15 @@ class Desk:
             return now if before.differences(now, self.view_box()) >= least else None
         return self.until(changed, sentence)
 
+    def comes_to(self, wanted, patience=2.5):
+        """Whether the view looks exactly like `wanted` before the patience ends, which outlasts a caret's blink."""
+        end = time.monotonic() + patience
+        while time.monotonic() < end:
+            if self.picture().differences(wanted, self.view_box()) == 0:
+                return True
+            time.sleep(0.05)
+        return False
+
     def windows(self):
         """How many windows the program shows."""
         return len(self.tool("search", "--onlyvisible", "--class", "scribe").split())
@@ -119,6 +128,27 @@ class Desk:
         self.tool("mousemove", x, y)
         self.tool("click", "--repeat", repeat, "--delay", "60", button)
         self.rest()
+
+    def press(self, x, y):
+        self.tool("mousemove", x, y)
+        self.tool("mousedown", 1)
+        self.rest()
+
+    def move(self, *points):
+        """Moves the pressed mouse to one point after the other."""
+        for x, y in points:
+            self.tool("mousemove", x, y)
+            self.rest()
+
+    def release(self):
+        self.tool("mouseup", 1)
+        self.rest()
+
+    def drag(self, begin, end):
+        """Presses, moves by way of the middle, and lets go."""
+        self.press(*begin)
+        self.move(((begin[0] + end[0]) // 2, (begin[1] + end[1]) // 2), end)
+        self.release()
 
     def view_box(self):
         """The inner part of the drawing view: left, top, right, bottom."""

@@ -20,6 +20,14 @@ class Picture:
     def row(self, y, left, right):
         return self.pixels[(y * self.width + left) * 3:(y * self.width + right) * 3]
 
+    def box_of(self, holds, box):
+        """The box around all pixels within `box` for which `holds` is true: left, top, right, bottom, all of them in it."""
+        left, top, right, bottom = box
+        found = [(x, y) for y in range(top, bottom) for x in range(left, right) if holds(self.at(x, y))]
+        assert found, "no pixel of that colour is to be seen"
+        columns, rows = [x for x, _ in found], [y for _, y in found]
+        return min(columns), min(rows), max(columns), max(rows)
+
     def differences(self, other, box):
         """How many pixels differ within box = (left, top, right, bottom)."""
         left, top, right, bottom = box

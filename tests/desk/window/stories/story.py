@@ -38,11 +38,23 @@ def choose(options, shared_window, sample_window):
     return Place(options.source / "samples" / "first-floor.dxf", sample_window)
 
 
-def prepared(folder, place):
-    """A fresh folder with a copy of the drawing."""
+def fresh(folder):
+    """An empty folder in place of the one that was there."""
     shutil.rmtree(folder, ignore_errors=True)
     folder.mkdir(parents=True)
-    return pathlib.Path(shutil.copy(place.file, folder / "drawing.dxf"))
+    return folder
+
+
+def prepared(folder, place):
+    """A fresh folder with a copy of the drawing."""
+    return pathlib.Path(shutil.copy(place.file, fresh(folder) / "drawing.dxf"))
+
+
+def made(folder, sheet):
+    """A fresh folder with a drawing of the story's own."""
+    drawing = fresh(folder) / "drawing.dxf"
+    sheet.write(drawing)
+    return drawing
 
 
 def show(desk, place):

@@ -5,35 +5,12 @@ Then the menu is shown on a light ground too.
 
 import story
 from desk import Desk
+from text_menu import choose_degree, open_menu
 
 options = story.arguments()
 options.sample = True
 place = story.choose(options, None, ("7400,6500", "9400,7600"))
 drawing = story.prepared(options.folder, place)
-
-
-def open_menu(desk, x, y):
-    """Opens the menu and waits until it stands still; gives what the view showed before."""
-    shown = desk.settle()
-    windows = desk.windows()
-    desk.click(x, y, button=3)
-    desk.until(lambda: desk.windows() > windows, "no menu opens")
-    desk.settle()
-    return shown
-
-
-def choose_degree(desk, x, y, name=None):
-    """Goes to the sub-menu by the arrow keys and takes its first row."""
-    windows = desk.windows()
-    open_menu(desk, x, y)
-    desk.key("Up", "Right")
-    desk.until(lambda: desk.windows() > windows + 1, "no sub-menu opens")
-    desk.settle()
-    if name:
-        story.keep_picture(desk, options, name)
-    desk.key("Return")
-    desk.until(lambda: desk.windows() <= windows, "the menu does not go away")
-    return desk.settle()
 
 
 with Desk(options.program, drawing, options.folder) as desk:
@@ -52,7 +29,7 @@ with Desk(options.program, drawing, options.folder) as desk:
     closed = opened.differences(desk.settle(), desk.view_box())
     assert closed < 2000, f"{closed} pixels are more than a caret, a menu that was closed changed the text"
 
-    chosen = choose_degree(desk, x, y, "menu-on-dark.png")
+    chosen = choose_degree(desk, x, y, look=lambda: story.keep_picture(desk, options, "menu-on-dark.png"))
     sign = opened.differences(chosen, desk.view_box())
     assert sign > 100, f"no sign is to be seen, {sign} pixels changed"
     desk.key("ctrl+z")
