@@ -1,6 +1,7 @@
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbText.h"
 #include "od/db/text_placement.h"
+#include "od/db/text_subclass.h"
 
 namespace {
 
@@ -28,6 +29,8 @@ void OdDbText::adjustAlignment(OdDbDatabase* other) {
   OdDbDatabase* source = other ? other : database();
   if (!source || isDefaultAlignment()) return;
   const OdDbTextPlacement placement = odPlaceText(*this, placedText(shownText(), textString()), *source);
+  // A record without an alignment point hangs on its position, which moves now.
+  if (!groups(odTextSubclass()).has(11)) setAlignmentPoint(alignmentPoint());
   setPosition(OdGeMatrix3d::planeToWorld(normal()) * placement.position);
   const OdDb::TextHorzMode mode = horizontalMode();
   if (mode != OdDb::kTextAlign && mode != OdDb::kTextFit) return;

@@ -16,6 +16,9 @@ int justify(command_run& run, const OdGePoint3d& pressed, std::u16string_view ke
   return run.run<CJust>();
 }
 
+OdDbTextPtr single(const OdDbObjectId& id) { return odCast<OdDbText>(id.openObject()); }
+OdDbMTextPtr multi(const OdDbObjectId& id) { return odCast<OdDbMText>(id.openObject()); }
+
 OdGePoint3d corner_of(const OdDbMText& text) {
   const int place = text.attachment() - 1;
   return text.location() +
@@ -26,10 +29,11 @@ OdGePoint3d corner_of(const OdDbMText& text) {
 
 TEST(TJust, a_left_text_set_to_bottom_right_stays_on_the_sheet_and_hangs_on_its_right_end) {
   command_run run;
-  const auto text = run.addLineOfText(u"Hall", {10, 20, 0});
+  const OdDbObjectId id = run.addLineOfText(u"Hall", {10, 20, 0})->objectId();
   OdArray<OdGePoint3d> before, after;
-  text->getBoundingPoints(before);
+  single(id)->getBoundingPoints(before);
   EXPECT_EQ(justify(run, {10.5, 20.5, 0}, u"BR"), kCommandDone);
+  const OdDbTextPtr text = single(id);
   text->getBoundingPoints(after);
   for (unsigned i = 0; i < 4; ++i) EXPECT_TRUE(before[i].isEqualTo(after[i])) << i;
   EXPECT_EQ(text->horizontalMode(), OdDb::kTextRight);
@@ -62,23 +66,23 @@ TEST(TJust, the_keyword_table) {
       {u"BL", 0, 1, 7},    {u"BC", 1, 1, 8},     {u"BR", 2, 1, 9}};
   for (const row& each : kRows) {
     command_run run;
-    const auto single = run.addLineOfText(u"Hall", {10, 20, 0});
-    const auto multi = run.addText(u"Hall", {10, 50, 0});
+    const OdDbObjectId line = run.addLineOfText(u"Hall", {10, 20, 0})->objectId();
+    const OdDbObjectId block = run.addText(u"Hall", {10, 50, 0})->objectId();
     run.application.input().click({10.5, 20.5, 0});
     EXPECT_EQ(justify(run, {10.5, 48.5, 0}, each.keyword), kCommandDone);
-    EXPECT_EQ(single->horizontalMode(), each.horizontal);
-    EXPECT_EQ(single->verticalMode(), each.vertical);
-    EXPECT_EQ(multi->attachment(), each.attachment);
+    EXPECT_EQ(single(line)->horizontalMode(), each.horizontal);
+    EXPECT_EQ(single(line)->verticalMode(), each.vertical);
+    EXPECT_EQ(multi(block)->attachment(), each.attachment);
   }
 }
 
 TEST(TJust, a_multi_line_text_keeps_its_top_left_corner) {
   command_run run;
-  const auto text = run.addText(u"Hall\\Pand stairs", {10, 50, 0});
-  const OdGePoint3d before = corner_of(*text);
+  const OdDbObjectId id = run.addText(u"Hall\\Pand stairs", {10, 50, 0})->objectId();
+  const OdGePoint3d before = corner_of(*multi(id));
   EXPECT_EQ(justify(run, {10.5, 48.5, 0}, u"BR"), kCommandDone);
-  EXPECT_EQ(text->attachment(), OdDb::kBottomRight);
-  EXPECT_TRUE(corner_of(*text).isEqualTo(before));
+  EXPECT_EQ(multi(id)->attachment(), OdDb::kBottomRight);
+  EXPECT_TRUE(corner_of(*multi(id)).isEqualTo(before));
 }
 
 TEST(TJust, a_selection_of_lines_only_is_told) {
@@ -90,19 +94,19 @@ TEST(TJust, a_selection_of_lines_only_is_told) {
 
 TEST(TJust, enter_at_the_keyword_changes_nothing) {
   command_run run;
-  const auto text = run.addLineOfText(u"Hall", {10, 20, 0});
+  const OdDbObjectId id = run.addLineOfText(u"Hall", {10, 20, 0})->objectId();
   EXPECT_EQ(justify(run, {10.5, 20.5, 0}, u""), kCommandDone);
-  EXPECT_TRUE(text->isDefaultAlignment());
+  EXPECT_TRUE(single(id)->isDefaultAlignment());
 }
 
 TEST(TJust, a_cancelled_keyword_changes_nothing) {
   command_run run;
-  const auto text = run.addLineOfText(u"Hall", {10, 20, 0});
+  const OdDbObjectId id = run.addLineOfText(u"Hall", {10, 20, 0})->objectId();
   run.application.input().click({10.5, 20.5, 0});
   run.application.input().line(u"");
   run.application.input().cancel();
   EXPECT_EQ(run.run<CJust>(), kCommandDone);
-  EXPECT_TRUE(text->isDefaultAlignment());
+  EXPECT_TRUE(single(id)->isDefaultAlignment());
 }
 
 TEST(TJust, a_cancelled_selection_has_status_1) {

@@ -210,3 +210,11 @@ TEST_F(TextAlignment, signs_of_two_percents_are_drawn_as_what_they_stand_for) {
   EXPECT_DOUBLE_EQ(shown(u"%%065%%%"), shown(u"A%"));
   EXPECT_DOUBLE_EQ(shown(u"%%uA%%u%%oB"), shown(u"AB"));
 }
+
+TEST_F(TextAlignment, a_text_that_had_no_alignment_point_keeps_the_one_it_was_justified_by) {
+  text->setPosition({100, 50, 0});
+  text->setHorizontalMode(OdDb::kTextRight);
+  text->adjustAlignment();
+  EXPECT_TRUE(text->alignmentPoint().isEqualTo({100, 50, 0}));
+  EXPECT_LT(text->position().x, 90);
+}
