@@ -1,5 +1,6 @@
 #include "commands/mtext_create.h"
 #include "commands/mtext_edit.h"
+#include "commands/tcase_command.h"
 #include "commands/text_to_mtext_command.h"
 #include "commands/tjust_command.h"
 #include "host/exports.h"
@@ -21,6 +22,7 @@ OdSmartPtr<ICmdProcess> make() {
 [[maybe_unused]] const bool kMTextEdit =
     host::register_command(u"MTextEdit", make<CMTextEditCmd>, u"HOST", kCommandUsesPickFirst);
 [[maybe_unused]] const bool kText2MText = host::register_command(u"Text2MText", make<CText2MTextCmd>);
+[[maybe_unused]] const bool kTCase = host::register_command(u"TCase", make<CTCase>);
 [[maybe_unused]] const bool kTJust = host::register_command(u"TJust", make<CJust>);
 
 }  // namespace

@@ -1,0 +1,88 @@
+#include "commands/tcase_command.h"
+
+#include <array>
+
+#include "commands/case_of_contents.h"
+#include "commands/selected_texts.h"
+#include "editor/current_space.h"
+#include "host/document.h"
+#include "host/prompt.h"
+#include "host/translate.h"
+#include "mtext/entity/mtext_size_finder.h"
+#include "od/db/OdDbBlockTableRecord.h"
+#include "od/db/OdDbDatabase.h"
+#include "ui/dialogs/CCaseDlg.h"
+
+namespace {
+
+/// The modes at the prompt, in the order of `CCaseDlg::kChoices`.
+constexpr std::array<const char16_t*, CCaseDlg::kChoices.size()> kKeywords{u"Sentence", u"Lower", u"Upper",
+                                                                           u"Title", u"tOggle"};
+
+std::u16string keyword_list() {
+  std::u16string list;
+  for (const char16_t* word : kKeywords)
+    list += list.empty() ? std::u16string(word) : u" " + std::u16string(word);
+  return list;
+}
+
+/// Asks at the prompt; Enter takes the mode that the dialog would show.
+bool ask_at_prompt(HostEdPrompt& prompt, CCaseDlg& dialog) {
+  const std::size_t last = static_cast<std::size_t>(dialog.mode());
+  const int answer = prompt.getKeyword(
+      {.prompt = Supp_Translate(u"Case"), .keywords = keyword_list(), .default_answer = kKeywords.at(last)});
+  if (answer < 0) return false;
+  dialog.check(CCaseDlg::kChoices.at(static_cast<std::size_t>(answer)));
+  return true;
+}
+
+/// The mode that was chosen last, in whatever drawing; it lives as long as the program.
+case_mode& last_mode() {
+  static case_mode mode = case_mode::sentence;
+  return mode;
+}
+
+/// Lets the user choose a mode; false for cancel.
+bool choose_mode(HostEdPrompt& prompt) {
+  CCaseDlg dialog(static_cast<int>(last_mode()));
+  if (!ask_at_prompt(prompt, dialog)) return false;
+  last_mode() = static_cast<case_mode>(dialog.mode());
+  return true;
+}
+
+void change_case(OdDbText& text, case_mode mode) {
+  case_state state(mode);
+  text.setTextString(in_case(text.textString().str(), state));
+}
+
+void change_case(OdDbMText& text, case_mode mode) {
+  const mtext::mtext_size_finder finder{OdDbDatabasePtr(text.database())};
+  text.setContents(case_of_contents(text.contents().str(), text.textHeight(), mode, finder,
+                                    mtext::marks::default_letters()));
+}
+
+template <class Text>
+void change_all(HostDocument& document, const std::vector<OdSmartPtr<Text>>& texts, case_mode mode) {
+  for (const auto& text : texts) {
+    change_case(*text, mode);
+    document.entityChanged(text->objectId());
+  }
+}
+
+}  // namespace
+
+int CTCase::runIn(HostDocument& document) {
+  const OdDbObjectId target = editing::current_space(document.database());
+  odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
+  const auto selected = ask_for_texts(document);
+  if (!selected) return kCommandCancelled;
+  const selected_texts texts = open_texts(*selected);
+  if (texts.empty()) {
+    refuse_without_texts(document);
+    return kCommandDone;
+  }
+  if (!choose_mode(document.prompt())) return kCommandCancelled;
+  change_all(document, texts.single_line, last_mode());
+  change_all(document, texts.multi_line, last_mode());
+  return kCommandDone;
+}
