@@ -2,7 +2,6 @@
 
 #include <algorithm>
 
-#include "editor/column_boxes.h"
 #include "editor/editable.h"
 #include "od/gi/OdGiGeometry.h"
 
@@ -30,14 +29,18 @@ OdCmEntityColor tinted(const OdCmEntityColor& background) {
   return {mixed(red), mixed(green), mixed(blue)};
 }
 
-void draw_background(const ExMTextEditable& text, const OdCmEntityColor& drawing_background,
-                     OdGiGeometry& geometry) {
+std::vector<text_box> background_boxes(const ExMTextEditable& text) {
+  const double margin = text.background.on ? std::max(text.background.scale - 1.0, 0.0) : 0.0;
+  return column_boxes(text.displayed(), margin + kColumnMargin);
+}
+
+void draw_background(const ExMTextEditable& text, const std::vector<text_box>& boxes,
+                     const OdCmEntityColor& drawing_background, OdGiGeometry& geometry) {
   const OdGiSubEntityTraits before = geometry.traits();
   geometry.traits().setFillType(kOdGiFillAlways);
   geometry.traits().setTrueColor(fill_color(text.background, drawing_background));
-  const double margin = text.background.on ? std::max(text.background.scale - 1.0, 0.0) : 0.0;
   const OdGeMatrix3d to_world = text.frame().text_to_world();
-  for (const text_box& box : column_boxes(text.displayed(), margin + kColumnMargin)) {
+  for (const text_box& box : boxes) {
     const auto corner = [&](double x, double y) { return to_world * OdGePoint3d{x, y, 0}; };
     geometry.polygon({corner(box.left, box.bottom), corner(box.right, box.bottom), corner(box.right, box.top),
                       corner(box.left, box.top)});

@@ -7,16 +7,21 @@
 #include "editor/smart_edit.h"
 #include "host/exports.h"
 #include "host/window.h"
+#include "micui/hit_path.h"
 
 namespace {
+
+/// Whether a press at a point of the text's plane goes into the text.
+bool is_over_text(smart_edit& session, const OdGePoint2d& at) {
+  if (session.gadgets().is_open()) return session.gadgetMouse().is_over_text(at);
+  if (session.lineFrame().is_open()) return !micui::hit_path(session.lineFrame().refreshed(), at).empty();
+  return editing::is_in_text(session.editable().text(), at);
+}
 
 /// Where in the text a world point lies; nothing when it lies beside it, or cannot be found in its plane.
 std::optional<OdGePoint2d> point_in_text(smart_edit& session, const OdGePoint3d& world) {
   const auto at = session.textPoint(world);
-  if (!at) return std::nullopt;
-  const bool is_hit = session.gadgets().is_open() ? session.gadgetMouse().is_over_text(*at)
-                                                  : editing::is_in_text(session.editable().text(), *at);
-  return is_hit ? at : std::nullopt;
+  return at && is_over_text(session, *at) ? at : std::nullopt;
 }
 
 /// A press on the text or on a gadget around it; false if it lies outside both.
@@ -25,7 +30,7 @@ bool press_at(smart_edit& session, const OdGePoint2d& at, const held_keys& held)
     session.fitGadgets();
     return session.gadgetMouse().press(at, held.shift, held.ctrl);
   }
-  if (!editing::is_in_text(session.editable().text(), at)) return false;
+  if (!is_over_text(session, at)) return false;
   session.mouse().press(at, held.shift, held.ctrl);
   return true;
 }

@@ -142,4 +142,5 @@ bool smart_edit::beginTextEdit(OdDbTextPtr source, const session_start& start) {
 void smart_edit::beginPlain(bool single_line, bool had_text) {
   m_single_line = single_line;
   m_had_text = had_text;
+  if (single_line) m_line_frame.open(*m_editable);
 }

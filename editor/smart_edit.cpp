@@ -117,10 +117,17 @@ HostWindow* smart_edit::window() {
   return application ? &application->window() : nullptr;
 }
 
+std::vector<editing::text_box> smart_edit::backgroundBoxes() const {
+  if (!m_line_frame.is_open()) return editing::background_boxes(*m_editable);
+  const micui::extents frame = m_line_frame.refreshed().parent_extents();
+  return {{frame.min_x, frame.min_y, frame.max_x, frame.max_y}};
+}
+
 void smart_edit::drawText(OdGiWorldDraw& draw) {
   OdGiGeometry& geometry = draw.geometry();
   geometry.pushModelTransform(m_view_policy.edit_transform());
-  editing::draw_background(*m_editable, m_host.view().gsView().backgroundColor(), geometry);
+  editing::draw_background(*m_editable, backgroundBoxes(), m_host.view().gsView().backgroundColor(),
+                           geometry);
   m_editable->worldDraw(draw);
   geometry.popModelTransform();
 }

@@ -3,10 +3,12 @@
 #include <optional>
 
 #include "editor/blink.h"
+#include "editor/column_boxes.h"
 #include "editor/editable.h"
 #include "editor/gadget_mouse.h"
 #include "editor/gadget_tree.h"
 #include "editor/layers.h"
+#include "editor/line_frame.h"
 #include "editor/message_filter.h"
 #include "editor/mouse.h"
 #include "editor/redraw.h"
@@ -101,6 +103,8 @@ class smart_edit : public MTextEditor {
   /// Ruler and handles; open in a multi-line session alone.
   const gadget_tree& gadgets() const { return m_gadgets; }
   void openGadgets();
+  /// What is text in a single-line session; open in such a one alone.
+  const line_frame& lineFrame() const { return m_line_frame; }
   /// Gives the gadgets their size for the view as it now is, painted or not.
   void fitGadgets();
   gadget_mouse& gadgetMouse() { return m_gadget_mouse; }
@@ -145,6 +149,7 @@ class smart_edit : public MTextEditor {
   editing::shown_text shownText() const;
   /// Has the view policy look at the text.
   void placeInView();
+  std::vector<editing::text_box> backgroundBoxes() const;
   void drawText(OdGiWorldDraw& draw);
   void drawCaret(OdGiViewportDraw& draw);
   void drawGadgets(OdGiViewportDraw& draw);
@@ -156,6 +161,7 @@ class smart_edit : public MTextEditor {
   text_mouse m_mouse;
   typed_characters m_typed;
   gadget_tree m_gadgets;
+  line_frame m_line_frame;
   gadget_mouse m_gadget_mouse{*this};
   view_policy m_view_policy;
   session_layers m_layers;
