@@ -2,6 +2,7 @@
 
 #include <filesystem>
 #include <memory>
+#include <optional>
 #include <unordered_map>
 #include <variant>
 
@@ -75,6 +76,9 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
 
   /// System variables by name, with or without `$`, without case. Those of the file's header come from there
   /// and are saved; others live as long as the database.
+  using SysVar = std::variant<double, int, OdString>;
+  /// The value, of a point its x, with the type that it has; nothing for a variable that is not there.
+  std::optional<SysVar> getSysVar(const OdString& name) const;
   double getSysVarDouble(const OdString& name, double fallback) const;
   int getSysVarInt(const OdString& name, int fallback) const;
   OdString getSysVarString(const OdString& name, const OdString& fallback) const;
@@ -103,7 +107,7 @@ class OdDbDatabase : public OdRxObject, public OdGiFontContext {
   OdDbDatabase() = default;
   static OdDbDatabasePtr fromFile(dxf::File file, const OdString& name);
   std::unique_ptr<OdDbDrawing> m_drawing;
-  std::unordered_map<OdString, std::variant<double, int, OdString>> m_sessionVariables;
+  std::unordered_map<OdString, SysVar> m_sessionVariables;
   OdString m_fileName;
   std::filesystem::path m_path;
   mutable std::shared_ptr<OdFontLibrary> m_ownFonts;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -14,6 +15,14 @@ class OdDbDictionary : public OdDbObject {
   OdDbObjectId getAt(const OdString& name) const;
   /// Names and objects in file order.
   std::vector<std::pair<OdString, OdDbObjectId>> entries() const;
+  /// Lets `name` name another object. A new name goes in front of the first one behind it in the alphabet.
+  void setAt(const OdString& name, OdDbObjectId object);
+  /// Takes a name out; nothing happens where it is not there.
+  void remove(const OdString& name);
+
+ private:
+  std::vector<std::size_t> places() const;
+  std::optional<std::size_t> placeOf(const OdString& name) const;
 };
 
 using OdDbDictionaryPtr = OdSmartPtr<OdDbDictionary>;

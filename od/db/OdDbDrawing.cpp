@@ -154,6 +154,33 @@ OdDbObjectId OdDbDrawing::append(OdDbBlockTableRecord& block, OdDbEntity& entity
   return OdDbObjectId(&stub);
 }
 
+dxf::Record& OdDbDrawing::endOfObjects() {
+  if (const auto objects = m_file.section("OBJECTS"); objects && objects->end) return *objects->end;
+  dxf::Record* last = m_file.records().last();
+  dxf::Record* place = last && last->is("EOF") ? last : nullptr;
+  m_file.insert_before(place, "SECTION").insert_string(1, 2, u"OBJECTS");
+  return m_file.insert_before(place, "ENDSEC");
+}
+
+OdDbStub& OdDbDrawing::addObject(std::string_view type, OdDbHandle owner, OwnerReaction reaction) {
+  dxf::Record& record = m_file.insert_before(&endOfObjects(), type);
+  record.set_handle(takeHandle().value());
+  if (reaction == kOwnerReacts) {
+    record.insert_string(record.size(), 102, u"{ACAD_REACTORS");
+    record.insert_handle(record.size(), 330, owner.value());
+    record.insert_string(record.size(), 102, u"}");
+  }
+  record.insert_handle(record.size(), 330, owner.value());
+  m_database.setModified(true);
+  return addStub(&record, nullptr, OdDbStub::kObject);
+}
+
+OdDbObjectId OdDbDrawing::rootDictionary() const {
+  const auto objects = m_file.section("OBJECTS");
+  dxf::Record* first = objects ? objects->begin->next() : nullptr;
+  return first && first->is("DICTIONARY") ? OdDbObjectId(find(OdDbHandle(first->handle()))) : OdDbObjectId();
+}
+
 /// The database takes its share in `entity`, which from here on is a view of the stub's record.
 void OdDbDrawing::adopt(OdDbEntity& entity, OdDbStub& stub) {
   const std::unique_ptr<dxf::Record> before = std::move(entity.m_own);

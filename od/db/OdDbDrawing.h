@@ -32,6 +32,12 @@ class OdDbDrawing {
   /// True when new objects of this file are written with a handle.
   bool writesHandles() const { return m_writesHandles; }
   OdDbObjectId append(OdDbBlockTableRecord& block, OdDbEntity& entity);
+  /// Whether a new object names its owner as one that is told of changes, too.
+  enum OwnerReaction { kOwnerKeepsQuiet, kOwnerReacts };
+  /// A new record at the end of the section OBJECTS, with handle and owner and nothing else.
+  OdDbStub& addObject(std::string_view type, OdDbHandle owner, OwnerReaction reaction);
+  /// The dictionary that all others hang on; null in a drawing without any.
+  OdDbObjectId rootDictionary() const;
   /// The file's bytes without the erased records.
   std::string write();
 
@@ -55,6 +61,7 @@ class OdDbDrawing {
   OdDbHandle takeInternalNumber();
   void attach(OdDbStub& stub, OdDbObjectPtr made);
   dxf::Record& endOfEntities();
+  dxf::Record& endOfObjects();
   void adopt(OdDbEntity& entity, OdDbStub& stub);
 
   OdDbDatabase& m_database;

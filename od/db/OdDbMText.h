@@ -105,6 +105,7 @@ class OdDbMText : public OdDbEntity {
 
  protected:
   OdString fieldHostText() const override;
+  void setFieldHostText(const OdDbField& field) override;
   void recordMoved(const dxf::Record& before) override;
   void drawGeometry(OdGiWorldDraw& draw) const override;
   std::unique_ptr<dxf::Record> newRecord() const override;

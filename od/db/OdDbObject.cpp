@@ -1,9 +1,7 @@
 #include "od/db/OdDbObject.h"
 
 #include "od/db/OdDbDatabase.h"
-#include "od/db/OdDbDictionary.h"
 #include "od/db/OdDbDrawing.h"
-#include "od/db/field_reader.h"
 #include "od/db/new_record.h"
 
 ODRX_DEFINE_ABSTRACT_MEMBERS(OdDbObject, OdGiDrawable)
@@ -62,6 +60,7 @@ void OdDbObject::erase(bool erasing) {
   if (!m_stub || m_stub->erased == erasing) return;
   m_stub->erased = erasing;
   for (OdDbStub* part : m_stub->parts) part->erased = erasing;
+  eraseFields(erasing);
   touch();
 }
 
@@ -96,26 +95,6 @@ OdDbGroups OdDbObject::groups(const OdDbSubclass& part) const {
 OdDbGroupEditor OdDbObject::edit(const OdDbSubclass& part) {
   assertWriteEnabled();
   return OdDbGroupEditor(record(), part, [this] { touch(); });
-}
-
-OdDbObjectId OdDbObject::extensionDictionary() const {
-  if (!m_stub || !m_record) return {};
-  const auto range = m_record->application_group("ACAD_XDICTIONARY");
-  if (!range) return {};
-  return m_database->getOdDbObjectId(OdDbHandle(m_record->handle_or(360, *range, 0)));
-}
-
-OdRxObjectPtr OdDbObject::getField(const OdString& name, OdDb::OpenMode mode) const {
-  const OdDbDictionaryPtr extension = odOpen<OdDbDictionary>(extensionDictionary());
-  if (!extension) return {};
-  const OdDbDictionaryPtr fields = odOpen<OdDbDictionary>(extension->getAt(u"ACAD_FIELD"));
-  if (!fields) return {};
-  const OdDbObjectId id = fields->getAt(name);
-  if (id.isNull()) return {};
-  OdDbObjectPtr object = id.openObject(mode);
-  if (!object->record().is("FIELD")) return object;
-  if (odFieldIsStale(object->record(), fieldHostText())) return {};
-  return odReadField(m_database->drawing(), *id.stub());
 }
 
 OdResult OdDbObject::dxfInFields(OdDbDxfFiler*) { return eOk; }

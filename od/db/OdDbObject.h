@@ -10,6 +10,8 @@
 
 class OdDbDwgFiler;
 class OdDbDxfFiler;
+class OdDbDictionary;
+class OdDbField;
 
 /// Anything that a drawing database keeps. It is a view: getters read the groups of its file record, setters
 /// change them in place, and a value equal to the present one changes nothing.
@@ -51,6 +53,13 @@ class OdDbObject : public OdGiDrawable {
   /// The field that the extension dictionary holds under `name` ("TEXT"); null when there is none, or when
   /// the text was changed since without it. A value that is no field comes back as what it is.
   OdRxObjectPtr getField(const OdString& name, OdDb::OpenMode mode = OdDb::kForRead) const;
+  /// Takes `field`, a container (`OdDbField::kTextField`), under `name`: the object shows its text, with what
+  /// the children show. In the drawing each field becomes an object; those that were read from this object's
+  /// field keep theirs. A drawing of a version without such objects keeps the text alone, and null is given.
+  /// Throws `OdError(eInvalidInput)` for what is no container.
+  OdDbObjectId setField(const OdString& name, const OdDbField& field);
+  /// Takes the field out, with its objects; the text stays.
+  void removeField(const OdString& name);
   /// The extension dictionary, or null.
   OdDbObjectId extensionDictionary() const;
 
@@ -92,12 +101,18 @@ class OdDbObject : public OdGiDrawable {
 
   /// The text that a field of this object stands for, as the file has it; empty for what has no text.
   virtual OdString fieldHostText() const { return {}; }
+  /// Shows the text of a container; nothing happens for what has no text.
+  virtual void setFieldHostText(const OdDbField&) {}
   /// Called when the object's groups have been written anew in the manner of the file that it came into;
   /// `before` is the record as it was.
   virtual void recordMoved(const dxf::Record& before);
 
  private:
   static OdSmartPtr<OdDbObject> open(OdDbStub& stub, OdDb::OpenMode mode);
+  /// The dictionary of this object's fields, null without one.
+  OdSmartPtr<OdDbDictionary> fieldDictionary(OdDb::OpenMode mode) const;
+  OdSmartPtr<OdDbDictionary> needFieldDictionary();
+  void eraseFields(bool erasing);
 
   OdDbStub* m_stub = nullptr;
   OdDbDatabase* m_database = nullptr;

@@ -5,6 +5,7 @@
 #include "od/db/OdDbTextStyleTableRecord.h"
 #include "od/db/new_record.h"
 #include "od/db/text_subclass.h"
+#include "od/evaluate/evaluate_field.h"
 
 ODRX_DEFINE_MEMBERS(OdDbText, OdDbEntity, "TEXT")
 
@@ -34,6 +35,8 @@ OdDbText::VerticalGroup OdDbText::verticalGroup() const { return {&kSecondText, 
 OdString OdDbText::textString() const { return groups(kText).string(1); }
 
 void OdDbText::setTextString(const OdString& text) { edit(kText).setString(1, text); }
+
+void OdDbText::setFieldHostText(const OdDbField& field) { setTextString(odContainerText(field)); }
 
 OdGePoint3d OdDbText::position() const {
   return OdGeMatrix3d::planeToWorld(normal()) * groups(kText).point(10);

@@ -67,6 +67,7 @@ class OdDbText : public OdDbEntity {
 
  protected:
   OdString fieldHostText() const override { return textString(); }
+  void setFieldHostText(const OdDbField& field) override;
   void drawGeometry(OdGiWorldDraw& draw) const override;
   std::unique_ptr<dxf::Record> newRecord() const override;
 

@@ -3,10 +3,9 @@
 #include <unordered_set>
 
 #include "od/db/OdDbDrawing.h"
+#include "od/db/field_code_form.h"
 
 namespace {
-
-const OdDbSubclass kFieldPart{"AcDbField", {}};
 
 /// Code pieces 2 and 3 in file order; they stand before the number of children.
 OdString codeOf(const dxf::Record& record, dxf::Range range) {
@@ -25,21 +24,35 @@ OdString evaluatedTextOf(const dxf::Record& record, dxf::Range range) {
   return text;
 }
 
+std::vector<dxf::Handle> handlesOf(const dxf::Record& record, int code) {
+  std::vector<dxf::Handle> handles;
+  // The value may name an object too, behind the first data entry.
+  dxf::Range range = OdDbGroups(record, odFieldSubclass()).range();
+  if (const auto data = record.find(6, range)) range.end = *data;
+  for (const std::size_t i : record.find_all(code, range)) handles.push_back(record.get_handle(i));
+  return handles;
+}
+
 OdDbFieldPtr fieldOf(const dxf::Record& record) {
-  const OdDbGroups groups(record, kFieldPart);
-  auto field = odNew<OdDbField>(groups.string(1), codeOf(record, groups.range()));
-  field->setEvaluatedText(evaluatedTextOf(record, groups.range()));
+  const OdDbGroups groups(record, odFieldSubclass());
+  const OdString code = odFieldCodeInMemory(codeOf(record, groups.range()), handlesOf(record, 331));
+  auto field = odNew<OdDbField>(groups.string(1), code);
+  const int status = groups.integer(95, OdDbField::kSuccess);
+  field->setEvaluation({}, evaluatedTextOf(record, groups.range()),
+                       static_cast<OdDbField::EvaluationStatus>(status));
+  field->setEvaluationOption(groups.integer(91, OdDbField::kAutomatic));
+  field->setFileHandle(record.handle());
   return field;
 }
 
-std::vector<dxf::Handle> childrenOf(const dxf::Record& record) {
-  const OdDbGroups groups(record, kFieldPart);
-  std::vector<dxf::Handle> children;
-  for (const std::size_t i : record.find_all(360, groups.range())) children.push_back(record.get_handle(i));
-  return children;
+}  // namespace
+
+const OdDbSubclass& odFieldSubclass() {
+  static const OdDbSubclass part{"AcDbField", {}};
+  return part;
 }
 
-}  // namespace
+std::vector<dxf::Handle> odFieldChildren(const dxf::Record& record) { return handlesOf(record, 360); }
 
 OdDbFieldPtr odReadField(OdDbDrawing& drawing, OdDbStub& stub) {
   struct Open {
@@ -52,7 +65,7 @@ OdDbFieldPtr odReadField(OdDbDrawing& drawing, OdDbStub& stub) {
   while (!open.empty()) {
     const Open parent = open.back();
     open.pop_back();
-    for (const dxf::Handle handle : childrenOf(*parent.record)) {
+    for (const dxf::Handle handle : odFieldChildren(*parent.record)) {
       const OdDbStub* child = drawing.find(OdDbHandle(handle));
       const bool usable = child && child->record && child->record->is("FIELD");
       const bool fresh = usable && seen.insert(child->record).second;
@@ -70,7 +83,7 @@ double odTextChecksum(std::u16string_view text) {
 }
 
 bool odFieldIsStale(const dxf::Record& record, const OdString& hostText) {
-  const dxf::Range range = OdDbGroups(record, kFieldPart).range();
+  const dxf::Range range = OdDbGroups(record, odFieldSubclass()).range();
   for (const std::size_t key : record.find_all(6, range)) {
     if (record.get_string(key) != u"ACFD_FIELDTEXT_CHECKSUM") continue;
     const auto sum = record.find(140, {key, range.end});

@@ -5,6 +5,7 @@
 #include "od/db/field_reader.h"
 #include "od/db/mtext_subclass.h"
 #include "od/dxf/chunked_text.h"
+#include "od/evaluate/evaluate_field.h"
 
 // The text itself. When a newer drawing is saved for an old program the entity gets a simplified text, and
 // the true one goes into a record of the extension dictionary, with a checksum of the simplified one.
@@ -13,6 +14,20 @@ namespace {
 
 const OdDbSubclass& kMText = odMTextSubclass();
 constexpr dxf::ChunkCodes kAllInOnes{1, 1};
+
+/// What a field shows, as letters of a text in that some characters are codes.
+std::u16string asLetters(std::u16string_view text) {
+  std::u16string letters;
+  for (const char16_t unit : text) {
+    if (unit == u'\\' || unit == u'{' || unit == u'}') letters += u'\\';
+    if (unit == u'\n') {
+      letters += u"\\P";
+    } else if (unit != u'\r') {
+      letters += unit;
+    }
+  }
+  return letters;
+}
 
 }  // namespace
 
@@ -48,3 +63,5 @@ void OdDbMText::setContents(const OdString& contents) {
 }
 
 OdString OdDbMText::fieldHostText() const { return ownContents(); }
+
+void OdDbMText::setFieldHostText(const OdDbField& field) { setContents(odContainerText(field, asLetters)); }

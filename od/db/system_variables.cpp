@@ -33,6 +33,17 @@ OdString sessionKey(const std::string& name) { return odToUtf16(name); }
 
 }  // namespace
 
+std::optional<OdDbDatabase::SysVar> OdDbDatabase::getSysVar(const OdString& name) const {
+  const std::string key = headerName(name);
+  if (const HeaderValue value(*m_drawing, key); value) {
+    if (value.type() == dxf::ValueType::real) return value.record->get_double(value.index).value_or(0);
+    if (!dxf::is_integer(value.type())) return OdString(value.record->get_string(value.index));
+    return static_cast<int>(value.record->get_int(value.index).value_or(0));
+  }
+  const auto own = m_sessionVariables.find(sessionKey(key));
+  return own == m_sessionVariables.end() ? std::nullopt : std::optional(own->second);
+}
+
 double OdDbDatabase::getSysVarDouble(const OdString& name, double fallback) const {
   const std::string key = headerName(name);
   if (const HeaderValue value(*m_drawing, key); value)

@@ -12,7 +12,7 @@ import sys
 import source_tree
 
 INCLUDE = re.compile(r'^\s*#\s*include\s*([<"])([^">]+)[">]', re.MULTILINE)
-OD_FOLDERS = ("base", "ge", "cm", "field", "fonts", "gi", "dxf", "db")
+OD_FOLDERS = ("base", "ge", "cm", "field", "evaluate", "fonts", "gi", "dxf", "db")
 TOOLKIT = re.compile(r"^(Q[A-Z]\w*$|Qt\w*/|X11/|xcb/|gtk|gdk|wayland|windows\.h$|GL/)")
 
 # What each floor may include beside itself. The desk loads the module at run time and knows nothing of its inside.

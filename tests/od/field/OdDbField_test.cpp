@@ -66,3 +66,29 @@ TEST(OdDbField, containers_that_name_their_child_ten_times_each_leave_markers_st
   EXPECT_NE(code.str().find(u"%<\\_FldIdx 0>%"), std::u16string::npos);
   EXPECT_LT(code.str().size(), 5'000'000u);
 }
+
+TEST(OdDbField, is_made_from_its_code_with_the_fields_within_it_as_children) {
+  const OdDbFieldPtr field =
+      OdDbField::createFromCode(u"\\AcExpr (%<\\AcVar A>% + %<\\AcObjProp Object(%<\\_ObjId 18>%).Area>%)");
+  EXPECT_EQ(field->evaluatorId(), OdString(u"AcExpr"));
+  EXPECT_EQ(field->getFieldCode(OdDbField::kFieldCode),
+            OdString(u"\\AcExpr (%<\\_FldIdx 0>% + %<\\_FldIdx 1>%)"));
+  ASSERT_EQ(field->childCount(), 2);
+  EXPECT_EQ(field->getChild(1)->getFieldCode(OdDbField::kFieldCode),
+            OdString(u"\\AcObjProp Object(%<\\_ObjId 18>%).Area"));
+  EXPECT_EQ(field->getFieldCode(OdDbField::kAddMarkers),
+            OdString(u"%<\\AcExpr (%<\\AcVar A>% + %<\\AcObjProp Object(%<\\_ObjId 18>%).Area>%)>%"));
+}
+
+TEST(OdDbField, whose_markers_do_not_pair_is_one_field_of_all_its_code) {
+  for (const auto* code : {u"\\AcExpr %<a", u"\\AcExpr a>%", u"\\AcExpr %<a>%>%", u">%%<"}) {
+    const OdDbFieldPtr field = OdDbField::createFromCode(code);
+    EXPECT_EQ(field->getFieldCode(OdDbField::kFieldCode), OdString(code));
+    EXPECT_EQ(field->childCount(), 0);
+  }
+}
+
+TEST(OdDbField, that_nobody_evaluated_shows_four_dashes) {
+  EXPECT_EQ(OdDbField::createFromCode(u"\\AcVar Date")->getFieldCode(OdDbField::kEvaluatedText),
+            OdString(u"----"));
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include <string_view>
+
+#include "od/field/OdDbField.h"
+
+namespace field_code {
+
+/// See `OdDbField::createFromCode`. Where markers do not pair, the whole is one field without children. Depth
+/// costs heap.
+OdDbFieldPtr read(std::u16string_view code);
+
+/// The evaluator that a code asks for: `AcVar` of `\AcVar.17.0 Lisp.x`; empty where the code names none.
+SCRIBE_EXPORT std::u16string_view evaluatorOf(std::u16string_view code);
+
+}  // namespace field_code
