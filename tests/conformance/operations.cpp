@@ -13,6 +13,7 @@ operation_table all_operations() {
   add_geom_operations(table);
   add_session_operations(table);
   add_gadget_operations(table);
+  add_dialog_operations(table);
   add_case_operations(table);
   return table;
 }

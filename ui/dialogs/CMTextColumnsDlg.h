@@ -52,7 +52,7 @@ class CMTextColumnsDlg {
   bool doModal();
 
  private:
-  std::optional<double> read(field which, std::u16string_view text) const;
+  double read(field which, std::u16string_view text) const;
   double value(field which) const;
   void take(field which, double value);
 

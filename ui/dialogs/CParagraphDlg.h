@@ -44,9 +44,8 @@ class CParagraphDlg {
   mtext::format::line_spacing result() const;
 
  private:
-  bool isMultiple() const { return m_style == 3; }
-  /// What one of the value is in the edit.
-  double unit() const { return isMultiple() ? 1.0 : m_text_height; }
+  /// What a value of 1 is in the edit.
+  double unit() const;
   void showValue();
 
   double m_text_height;
