@@ -10,6 +10,12 @@ class OdDbObjectId;
 /// An open drawing with everything that its user works through.
 class HostDocument : public EditHost {
  public:
+  HostDocument() = default;
+  HostDocument(const HostDocument&) = delete;
+  HostDocument& operator=(const HostDocument&) = delete;
+  /// Tells those who remember something of the document that it goes.
+  ~HostDocument() override;
+
   virtual HostEdPrompt& prompt() = 0;
   /// What was selected before a command was typed.
   virtual HostSelectionSet& pickFirst() = 0;

@@ -2,6 +2,8 @@
 
 #include "host/primitive_hit.h"
 #include "od/base/OdArray.h"
+#include "od/db/OdDbAttribute.h"
+#include "od/db/OdDbBlockReference.h"
 #include "od/db/OdDbMText.h"
 #include "od/db/OdDbText.h"
 #include "od/gi/OdGiRecorder.h"
@@ -71,7 +73,24 @@ bool hits_entity(OdDbEntity& entity, const OdGePoint3d& point, double aperture) 
   if (is_far(entity, point, aperture)) return false;
   if (const auto text = odCast<OdDbMText>(&entity)) return hits_box(box_of(*text), point, aperture);
   if (const auto text = odCast<OdDbText>(&entity)) return hits_box(box_of(*text), point, aperture);
+  const auto insert = odCast<OdDbBlockReference>(&entity);
+  if (insert && !attribute_at(*insert, point, aperture).isNull()) return true;
   return hits_drawing(entity, point, aperture);
+}
+
+OdDbObjectId attribute_at(const OdDbBlockReference& insert, const OdGePoint3d& point, double aperture) {
+  for (const OdDbObjectId& id : insert.attributes()) {
+    const auto text = odCast<OdDbAttribute>(id.openObject());
+    const bool shows = text && !text->isInvisible() && text->visibility() == OdDb::kVisible;
+    if (shows && hits_box(box_of(*text), point, aperture)) return id;
+  }
+  return {};
+}
+
+OdDbObjectId attribute_or_entity(const OdDbObjectId& picked, const OdGePoint3d& point, double aperture) {
+  const auto insert = odCast<OdDbBlockReference>(picked ? picked.openObject() : OdDbObjectPtr());
+  const OdDbObjectId text = insert ? attribute_at(*insert, point, aperture) : OdDbObjectId();
+  return text ? text : picked;
 }
 
 }  // namespace host

@@ -2,10 +2,12 @@
 
 #include "host/command_input.h"
 #include "host/document.h"
+#include "host/entity_hit.h"
 #include "host/picking.h"
 #include "host/selection_set.h"
 #include "host/view.h"
 #include "od/db/OdDbMText.h"
+#include "od/db/OdDbText.h"
 
 bool HostIdleFilter::filterMessage(const HostWindowMessage& message, const OdGePoint3d& point) {
   if (message.number == WM_LBUTTONDOWN) {
@@ -20,8 +22,10 @@ bool HostIdleFilter::filterMessage(const HostWindowMessage& message, const OdGeP
 }
 
 OdDbObjectId HostIdleFilter::entityAt(const OdGePoint3d& point) const {
-  return m_document.picking().pick(point, kAperture * m_document.view().unitsPerPixel());
+  return m_document.picking().pick(point, aperture());
 }
+
+double HostIdleFilter::aperture() const { return kAperture * m_document.view().unitsPerPixel(); }
 
 void HostIdleFilter::select(const OdGePoint3d& point, bool shift) {
   HostSelectionSet& selected = m_document.pickFirst();
@@ -36,9 +40,11 @@ void HostIdleFilter::select(const OdGePoint3d& point, bool shift) {
 }
 
 void HostIdleFilter::edit(const OdGePoint3d& point) {
-  const OdDbObjectId id = entityAt(point);
-  if (id.isNull() || !odCast<OdDbMText>(id.openObject())) return;
+  const OdDbObjectId id = host::attribute_or_entity(entityAt(point), point, aperture());
+  const auto text = odCast<OdDbEntity>(id ? id.openObject() : OdDbObjectPtr());
+  const bool is_multi_line = text && odCast<OdDbMText>(text);
+  if (!is_multi_line && !(text && odCast<OdDbText>(text))) return;
   m_document.pickFirst() = HostSelectionSet(id, point);
   m_document.commandInput().dropUnfinished();
-  m_document.commandInput().type(u"MTextEdit^M");
+  m_document.commandInput().type(is_multi_line ? u"MTextEdit^M" : u"TextEdit^M");
 }

@@ -21,7 +21,8 @@ void HostPromptLoop::refuse(std::u16string_view reason) {
 }
 
 int HostPromptLoop::ask(const HostPromptRequest& request, const HostReading& reading) {
-  HostPromptWait wait(m_document, request.tracker);
+  HostPromptWait wait(m_document, request);
+  m_cursor.reset();
   m_line.showPrompt(reading.prompt);
   std::optional<int> answer;
   while (!answer) answer = answerTo(nextInput(), reading, wait);
@@ -72,6 +73,7 @@ std::optional<int> HostPromptLoop::answerToMessage(const HostWindowMessage& mess
   switch (message.number) {
     case WM_MOUSEMOVE:
       wait.track(message.point);
+      m_cursor = message.point;
       return std::nullopt;
     case WM_LBUTTONDOWN:
       wait.track(message.point);

@@ -49,13 +49,16 @@ class HostPromptLoop : public HostEdPrompt {
   void askAgain(const HostReading& reading);
 
   OdGePoint3d basePoint(const HostPromptRequest& request) const;
-  bool addEntityAt(const OdGePoint3d& point, HostSelectionSet& picked);
-  bool addNamedEntity(std::u16string_view line, HostSelectionSet& picked);
+  /// A point as it is typed at this prompt.
+  std::optional<OdGePoint3d> typedPoint(std::u16string_view line, const HostPromptRequest& request) const;
+  bool addEntityAt(const OdGePoint3d& point, unsigned mode_flags, HostSelectionSet& picked);
+  bool addNamedEntity(std::u16string_view line, unsigned mode_flags, HostSelectionSet& picked);
 
   HostDocument& m_document;
   HostInputSource& m_source;
   HostCommandLine& m_line;
   OdGePoint3d m_last_point;
+  std::optional<OdGePoint3d> m_cursor;  ///< seen while the present prompt waits
   int m_unanswered = 0;
   int m_refusals = 0;
 };

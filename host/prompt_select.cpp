@@ -1,4 +1,5 @@
 #include "host/document.h"
+#include "host/entity_hit.h"
 #include "host/idle_filter.h"
 #include "host/picking.h"
 #include "host/prompt_loop.h"
@@ -33,23 +34,24 @@ int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, Host
       .default_answer = {},
       .may_be_empty = true,
       .wanted = u"Nothing was found there: press on an entity, type a point on it, or Last.",
-      .take_line = [&](std::u16string_view line) { return addNamedEntity(line, picked); },
-      .take_press = [&](const OdGePoint3d& point) { return addEntityAt(point, picked); }};
+      .take_line = [&](std::u16string_view line) { return addNamedEntity(line, mode_flags, picked); },
+      .take_press = [&](const OdGePoint3d& point) { return addEntityAt(point, mode_flags, picked); }};
   for (;;) {
     const int answer = ask(request, reading);
     if (answer == kAnswerNothing) return picked.isEmpty() ? kAnswerNothing : kAnswerValue;
-    if (answer != kAnswerValue || mode_flags == kSelectOne) return answer;
+    if (answer != kAnswerValue || (mode_flags & kSelectSingle)) return answer;
   }
 }
 
-bool HostPromptLoop::addEntityAt(const OdGePoint3d& point, HostSelectionSet& picked) {
+bool HostPromptLoop::addEntityAt(const OdGePoint3d& point, unsigned mode_flags, HostSelectionSet& picked) {
   const double aperture = HostIdleFilter::kAperture * m_document.view().unitsPerPixel();
-  const OdDbObjectId id = m_document.picking().pick(point, aperture);
+  OdDbObjectId id = m_document.picking().pick(point, aperture);
+  if (mode_flags & kSelectAttributes) id = host::attribute_or_entity(id, point, aperture);
   if (!id.isNull()) picked.add(id, point);
   return !id.isNull();
 }
 
-bool HostPromptLoop::addNamedEntity(std::u16string_view line, HostSelectionSet& picked) {
+bool HostPromptLoop::addNamedEntity(std::u16string_view line, unsigned mode_flags, HostSelectionSet& picked) {
   const std::u16string_view typed = host::without_outer_blanks(line);
   if (odEqualNoCase(typed, u"Last") || odEqualNoCase(typed, u"L")) {
     const OdDbObjectId newest = newest_entity(m_document.database());
@@ -57,5 +59,5 @@ bool HostPromptLoop::addNamedEntity(std::u16string_view line, HostSelectionSet& 
     return !newest.isNull();
   }
   const auto point = host::typed_point(typed, m_last_point);
-  return point && addEntityAt(*point, picked);
+  return point && addEntityAt(*point, mode_flags, picked);
 }

@@ -8,7 +8,8 @@ namespace host {
 std::u16string prompt_text(const HostPromptRequest& request) {
   std::u16string text = request.prompt;
   const std::u16string keywords = HostKeywordList(request.keywords).shown();
-  if (!keywords.empty()) text += u" [" + keywords + u"]";
+  const bool tells_keywords = text.find(u'[') != text.npos;
+  if (!keywords.empty() && !tells_keywords) text += u" [" + keywords + u"]";
   if (!request.default_answer.empty()) text += u" <" + request.default_answer + u">";
   const bool is_closed = text.ends_with(u':') || text.ends_with(u'.') || text.ends_with(u'?');
   if (!text.empty() && !is_closed) text += u':';

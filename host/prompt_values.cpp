@@ -1,11 +1,14 @@
 #include <cmath>
-#include <numbers>
 
+#include "host/distance_text.h"
+#include "host/document.h"
 #include "host/prompt_loop.h"
 #include "host/prompt_text.h"
 #include "host/reading.h"
 #include "host/translate.h"
 #include "host/typed_value.h"
+#include "od/db/OdDbDatabase.h"
+#include "od/ge/OdGePlane.h"
 
 // What each prompt takes for its value.
 
@@ -33,11 +36,16 @@ OdGePoint3d HostPromptLoop::basePoint(const HostPromptRequest& request) const {
   return request.base_point.value_or(m_last_point);
 }
 
+std::optional<OdGePoint3d> HostPromptLoop::typedPoint(std::u16string_view line,
+                                                      const HostPromptRequest& request) const {
+  const OdGePoint3d base = basePoint(request);
+  const auto along = request.rubber_line ? host::typed_along(line, base, m_cursor) : std::nullopt;
+  return along ? along : host::typed_point(line, base);
+}
+
 int HostPromptLoop::getPoint(const HostPromptRequest& request, OdGePoint3d& point) {
   HostReading reading = reading_of(request, u"A point is wanted here, such as 10,20 or @5<90.");
-  reading.take_line = [&](std::u16string_view line) {
-    return take(host::typed_point(line, basePoint(request)), point);
-  };
+  reading.take_line = [&](std::u16string_view line) { return take(typedPoint(line, request), point); };
   reading.take_press = [&](const OdGePoint3d& pressed) {
     point = pressed;
     return true;
@@ -90,8 +98,9 @@ int HostPromptLoop::getDistance(const HostPromptRequest& request, double& value)
   };
   HostReading reading = reading_of(request, u"A length is wanted here, such as 2.5, or a point.");
   reading.take_line = [&](std::u16string_view line) {
-    if (take(host::typed_number(line), value)) return true;
-    const auto point = host::typed_point(line, basePoint(request));
+    const auto length = host::typed_distance(line, host::distance_format_of(m_document.database()).units);
+    if (length) return *length >= 0 && *length <= host::kGreatestNumber && take(length, value);
+    const auto point = typedPoint(line, request);
     return point && take_point(*point);
   };
   reading.take_press = take_point;
@@ -107,16 +116,15 @@ int HostPromptLoop::getAngle(const HostPromptRequest& request, double& radians) 
   const OdGePoint3d base = basePoint(request);
   const auto take_point = [&](const OdGePoint3d& point) {
     if (point.isEqualTo(base)) return false;
-    radians = std::atan2(point.y - base.y, point.x - base.x);
+    const OdGePoint2d way = OdGePlane(base, request.normal).paramOf(point);
+    radians = std::atan2(way.y, way.x);
     return true;
   };
   HostReading reading = reading_of(request, u"An angle in degrees is wanted here, or a point.");
   reading.take_line = [&](std::u16string_view line) {
-    const auto point = host::typed_point(line, base);
-    if (point) return take_point(*point);
-    const auto degrees = host::typed_number(line);
-    if (degrees) radians = *degrees * std::numbers::pi / 180;
-    return degrees.has_value();
+    if (const auto degrees = host::typed_angle(line)) return take(degrees, radians);
+    const auto point = typedPoint(line, request);
+    return point && take_point(*point);
   };
   reading.take_press = take_point;
   return ask(request, reading);

@@ -2,21 +2,20 @@
 
 #include <vector>
 
-#include "od/ge/OdGePoint3d.h"
+#include "host/rubber_line.h"
 
 class HostDocument;
 class HostEdInputTracker;
-class OdGiDrawable;
+struct HostPromptRequest;
 
-/// The time that a prompt waits: keeps the prompt's tracker among the filters and its drawables above the
-/// drawing.
+/// The time that a prompt waits: keeps the prompt's tracker among the filters, and its drawables and the
+/// rubber line above the drawing.
 class HostPromptWait {
  public:
   /// Trackers are asked behind the filters of a higher level, an editing session's among them.
   static constexpr int kTrackerLevel = 1;
 
-  /// `tracker` may be null; then nothing is shown.
-  HostPromptWait(HostDocument& document, HostEdInputTracker* tracker);
+  HostPromptWait(HostDocument& document, const HostPromptRequest& request);
   ~HostPromptWait();
   HostPromptWait(const HostPromptWait&) = delete;
   HostPromptWait& operator=(const HostPromptWait&) = delete;
@@ -30,5 +29,7 @@ class HostPromptWait {
 
   HostDocument& m_document;
   HostEdInputTracker* m_tracker;
+  OdSmartPtr<HostRubberLine> m_line;  ///< null where none is asked for
+  bool m_has_cursor = false;
   std::vector<OdGiDrawable*> m_shown;
 };

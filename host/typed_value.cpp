@@ -22,14 +22,17 @@ std::vector<std::u16string_view> split(std::u16string_view text, char16_t mark) 
   }
 }
 
+OdGeVector3d polar(double length, double angle) {
+  return {length * std::cos(angle), length * std::sin(angle), 0};
+}
+
 std::optional<OdGeVector3d> polar_offset(std::u16string_view text) {
   const auto pieces = split(text, u'<');
   if (pieces.size() != 2) return std::nullopt;
   const auto length = typed_number(pieces[0]);
-  const auto degrees = typed_number(pieces[1]);
-  if (!length || !degrees) return std::nullopt;
-  const double angle = *degrees * std::numbers::pi / 180;
-  return OdGeVector3d{*length * std::cos(angle), *length * std::sin(angle), 0};
+  const auto angle = typed_angle(pieces[1]);
+  if (!length || !angle) return std::nullopt;
+  return polar(*length, *angle);
 }
 
 std::optional<OdGeVector3d> cartesian_offset(std::u16string_view text) {
@@ -50,7 +53,7 @@ std::optional<double> typed_number(std::u16string_view text) {
   if (digits.find_first_not_of("0123456789.eE+-") != digits.npos) return std::nullopt;
   double value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc() || end != digits.data() + digits.size() || !std::isfinite(value))
+  if (error != std::errc() || end != digits.data() + digits.size() || !(std::abs(value) <= kGreatestNumber))
     return std::nullopt;
   return value;
 }
@@ -62,6 +65,26 @@ std::optional<OdGePoint3d> typed_point(std::u16string_view text, const OdGePoint
   const auto offset = text.find(u'<') != text.npos ? polar_offset(text) : cartesian_offset(text);
   if (!offset) return std::nullopt;
   return (relative ? base : OdGePoint3d{}) + *offset;
+}
+
+std::optional<OdGePoint3d> typed_along(std::u16string_view text, const OdGePoint3d& base,
+                                       const std::optional<OdGePoint3d>& cursor) {
+  text = without_outer_blanks(text);
+  if (const auto offset = polar_offset(text)) return base + *offset;
+  const OdGeVector3d way = cursor ? *cursor - base : OdGeVector3d();
+  if (!(way.length() > 0)) return std::nullopt;
+  if (const auto length = typed_number(text)) return base + way * (*length / way.length());
+  const auto angle = text.starts_with(u'<') ? typed_angle(text) : std::nullopt;
+  if (!angle) return std::nullopt;
+  return base + polar(way.length(), *angle);
+}
+
+std::optional<double> typed_angle(std::u16string_view text) {
+  text = without_outer_blanks(text);
+  if (text.starts_with(u'<')) text.remove_prefix(1);
+  const auto degrees = typed_number(text);
+  if (!degrees) return std::nullopt;
+  return *degrees * std::numbers::pi / 180;
 }
 
 }  // namespace host

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "host/windowless/application.h"
+#include "od/gi/OdGiRecorder.h"
 
 namespace {
 
@@ -93,6 +94,70 @@ TEST_F(Tracker, a_filter_that_consumes_a_move_keeps_it_from_the_tracker) {
   input.cancel();
   prompt.getPoint({.prompt = u"Corner", .tracker = &follower}, point);
   EXPECT_TRUE(follower.points.empty());
+}
+
+TEST_F(Tracker, a_rubber_line_runs_from_the_base_point_to_the_cursor_until_the_prompt_is_answered) {
+  class Looks : public HostEdMessageFilter {
+   public:
+    explicit Looks(HostViewOverlay& overlay) : m_overlay(overlay) {}
+    bool filterMessage(const HostWindowMessage&, const OdGePoint3d&) override {
+      OdGiRecorder recorder;
+      for (const auto& layer : m_overlay.layers()) recorder.record(*layer.drawable);
+      for (const auto& line : recorder.primitives()) seen.push_back(line.contours[0].back());
+      return false;
+    }
+    std::vector<OdGePoint3d> seen;
+
+   private:
+    HostViewOverlay& m_overlay;
+  } looks(overlay);
+  application.document().messages().pushFilter(looks, 2);
+  for (const double x : {1, 2, 3}) input.move({x, 0, 0});
+  input.line(u"12<90");
+  EXPECT_EQ(prompt.getPoint({.prompt = u"To", .base_point = OdGePoint3d{}, .rubber_line = true}, point),
+            kAnswerValue);
+  EXPECT_THAT(looks.seen, ElementsAre(OdGePoint3d{1, 0, 0}, OdGePoint3d{2, 0, 0}));
+  EXPECT_TRUE(point.isEqualTo({0, 12, 0}));
+  EXPECT_TRUE(overlay.layers().empty());
+}
+
+TEST_F(Tracker, with_a_rubber_line_what_is_typed_counts_from_its_beginning) {
+  const HostPromptRequest request{.prompt = u"To", .base_point = OdGePoint3d{10, 10, 0}, .rubber_line = true};
+  input.move({10, 40, 0});
+  input.line(u"7");
+  prompt.getPoint(request, point);
+  EXPECT_TRUE(point.isEqualTo({10, 17, 0}));
+  input.move({10, 40, 0});
+  input.line(u"<0");
+  prompt.getPoint(request, point);
+  EXPECT_TRUE(point.isEqualTo({40, 10, 0}));
+  input.line(u"@1,2");
+  prompt.getPoint(request, point);
+  EXPECT_TRUE(point.isEqualTo({11, 12, 0}));
+  input.line(u"5");  // no cursor was seen yet at this prompt
+  input.cancel();
+  EXPECT_EQ(prompt.getPoint(request, point), kAnswerCancel);
+}
+
+TEST_F(Tracker, one_that_follows_messages_is_shown_anew_after_each_move) {
+  class Filters : public HostEdInputTracker {
+   public:
+    bool filterMessage(const HostWindowMessage& message, const OdGePoint3d&) override {
+      moves += message.number == WM_MOUSEMOVE;
+      return false;
+    }
+    std::vector<OdGiDrawable*> drawables() override {
+      asked.push_back(moves);
+      return {frame.get()};
+    }
+    OdGiDrawablePtr frame = odNew<OdGiDrawable>();
+    std::vector<int> asked;
+    int moves = 0;
+  } filters;
+  input.move({1, 0, 0});
+  input.cancel();
+  prompt.getPoint({.prompt = u"To", .tracker = &filters}, point);
+  EXPECT_THAT(filters.asked, ElementsAre(0, 1));
 }
 
 }  // namespace

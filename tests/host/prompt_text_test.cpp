@@ -26,4 +26,8 @@ TEST(PromptText, hidden_keywords_are_not_shown) {
   EXPECT_EQ(host::prompt_text({.prompt = u"Origin", .keywords = u"Justify *TL"}), u"Origin [Justify]:");
 }
 
+TEST(PromptText, a_question_that_tells_its_keywords_is_left_as_it_is) {
+  EXPECT_EQ(host::prompt_text({.prompt = u"Select mode [A/B]", .keywords = u"A B"}), u"Select mode [A/B]:");
+}
+
 }  // namespace

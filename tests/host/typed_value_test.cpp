@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <numbers>
+
 namespace {
 
 constexpr OdGePoint3d kBase{10, 20, 5};
@@ -33,6 +35,35 @@ TEST(TypedValue, a_length_and_an_angle_in_degrees_make_a_point) {
   ASSERT_TRUE(up);
   EXPECT_TRUE(up->isEqualTo({10, 25, 5}));
   EXPECT_TRUE(host::typed_point(u"2<180", kBase)->isEqualTo({-2, 0, 0}));
+}
+
+TEST(TypedValue, a_number_beyond_all_reckoning_is_none) {
+  EXPECT_EQ(host::typed_number(u"1e99"), 1e99);
+  EXPECT_FALSE(host::typed_number(u"1e100"));
+  EXPECT_FALSE(host::typed_number(u"-1e300"));
+}
+
+TEST(TypedValue, a_length_alone_lies_towards_the_cursor) {
+  EXPECT_TRUE(host::typed_along(u"5", kBase, OdGePoint3d{40, 20, 5})->isEqualTo({15, 20, 5}));
+  EXPECT_TRUE(host::typed_along(u"-5", kBase, OdGePoint3d{40, 20, 5})->isEqualTo({5, 20, 5}));
+  EXPECT_FALSE(host::typed_along(u"5", kBase, std::nullopt));
+  EXPECT_FALSE(host::typed_along(u"5", kBase, kBase));
+}
+
+TEST(TypedValue, an_angle_alone_turns_the_way_to_the_cursor) {
+  EXPECT_TRUE(host::typed_along(u"<90", kBase, OdGePoint3d{40, 20, 5})->isEqualTo({10, 50, 5}));
+  EXPECT_FALSE(host::typed_along(u"<90", kBase, std::nullopt));
+}
+
+TEST(TypedValue, a_length_with_an_angle_counts_from_the_base_and_needs_no_cursor) {
+  EXPECT_TRUE(host::typed_along(u"3<180", kBase, std::nullopt)->isEqualTo({7, 20, 5}));
+  EXPECT_FALSE(host::typed_along(u"1,2", kBase, std::nullopt));
+}
+
+TEST(TypedValue, an_angle_is_degrees_with_or_without_its_sign) {
+  EXPECT_DOUBLE_EQ(*host::typed_angle(u"180"), std::numbers::pi);
+  EXPECT_DOUBLE_EQ(*host::typed_angle(u" <90"), std::numbers::pi / 2);
+  EXPECT_FALSE(host::typed_angle(u"<"));
 }
 
 TEST(TypedValue, nonsense_is_no_point) {
