@@ -4,7 +4,6 @@
 #include <nlohmann/json.hpp>
 
 #include "desk/cli/exit_code.h"
-#include "desk/cli/single_line_plain.h"
 #include "desk/document/drawing_file.h"
 #include "mtext/escape.h"
 #include "od/base/unicode.h"
@@ -15,6 +14,7 @@
 #include "od/db/OdDbMText.h"
 #include "od/db/OdDbSymbolTable.h"
 #include "od/db/OdDbText.h"
+#include "od/gi/OdGiTextCharacter.h"
 
 namespace {
 
@@ -41,7 +41,7 @@ class BlockTexts {
     if (const auto mtext = odCast<OdDbMText>(entity))
       add(*entity, u"MTEXT", withoutReturns(mtext::unformat_mtext(mtext->contents().c_str())));
     if (const auto text = odCast<OdDbText>(entity))
-      add(*entity, kindOf(*text), singleLinePlain(text->textString().str()));
+      add(*entity, kindOf(*text), odShownCharacters(text->textString().str()));
     if (const auto insert = odCast<OdDbBlockReference>(entity))
       for (const OdDbObjectId& attribute : insert->attributes()) add(attribute);
   }

@@ -9,6 +9,8 @@
 
 namespace {
 
+/// What a byte means where the drawing does not say.
+constexpr int kUsualCodePage = 1252;
 constexpr char32_t kDegree = 0xB0, kPlusMinus = 0xB1, kDiameter = 0x2205;
 /// Code pages of `\M+1` to `\M+5`.
 constexpr std::array kMultiByteCodePages{932, 950, 949, 1361, 936};
@@ -42,34 +44,39 @@ char32_t ofByte(unsigned byte, int codePage) {
 
 class Reader {
  public:
-  Reader(std::u16string_view text, int codePage) : m_text(text), m_codePage(codePage) {}
+  Reader(std::u16string_view text, int codePage)
+      : m_text(text), m_length(text.size()), m_codePage(codePage) {}
 
   std::vector<OdGiTextCharacter> read(bool raw) {
     while (!m_text.empty()) {
       if (!raw && m_text.starts_with(u"%%") && percent()) continue;
       if (!raw && m_text.starts_with(u'\\') && escape()) continue;
-      add(m_text.front());
-      m_text.remove_prefix(1);
+      take(1, m_text.front());
     }
     return std::move(m_result);
   }
 
  private:
   /// Joins the second half of a pair to the first.
-  void add(char32_t c) {
+  void add(char32_t c, std::size_t first, std::size_t last) {
     bool isPair = isLow(c) && !m_result.empty() && isHigh(m_result.back().character);
     if (isPair) {
       char32_t& high = m_result.back().character;
       high = 0x10000 + ((high - 0xD800) << 10) + (c - 0xDC00);
+      m_result.back().last = last;
       return;
     }
     OdGiTextCharacter next = m_state;
     next.character = c;
+    next.first = first;
+    next.last = last;
     m_result.push_back(next);
   }
 
+  /// The next `units` of the text are this character.
   bool take(std::size_t units, char32_t character) {
-    add(character);
+    const std::size_t first = m_length - m_text.size();
+    add(character, first, first + units);
     m_text.remove_prefix(units);
     return true;
   }
@@ -126,7 +133,8 @@ class Reader {
     return character != 0 && take(8, character);
   }
 
-  std::u16string_view m_text;
+  std::u16string_view m_text;  ///< what is still to be read
+  std::size_t m_length;
   int m_codePage;
   OdGiTextCharacter m_state;
   std::vector<OdGiTextCharacter> m_result;
@@ -136,4 +144,17 @@ class Reader {
 
 std::vector<OdGiTextCharacter> odReadTextCharacters(std::u16string_view text, bool raw, int codePage) {
   return Reader(text, codePage).read(raw);
+}
+
+std::u16string odShownCharacters(std::u16string_view text) {
+  std::u16string shown;
+  for (const OdGiTextCharacter& each : odReadTextCharacters(text, /*raw=*/false, kUsualCodePage)) {
+    if (each.character >= 0x10000) {
+      shown += static_cast<char16_t>(0xD7C0 + (each.character >> 10));
+      shown += static_cast<char16_t>(0xDC00 + (each.character & 0x3FF));
+    } else {
+      shown += static_cast<char16_t>(each.character);
+    }
+  }
+  return shown;
 }

@@ -5,7 +5,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include "desk/cli/single_line_plain.h"
 #include "tests/desk/cli/program.h"
 
 using testing::HasSubstr;
@@ -33,16 +32,4 @@ TEST(ListTexts, texts_of_blocks_and_attributes_are_among_them) {
   const std::string out = runProgram("text sample.dxf").out;
   EXPECT_THAT(out, HasSubstr("\tATTRIB\t"));
   EXPECT_THAT(out, HasSubstr("\tATTDEF\t"));
-}
-
-TEST(SingleLinePlain, percent_codes_become_characters) {
-  EXPECT_EQ(singleLinePlain(u"%%c20 %%p0.5 at 45%%d, 100%%%"), u"\u230020 \u00B10.5 at 45\u00B0, 100%");
-  EXPECT_EQ(singleLinePlain(u"%%uROOM%%u 2"), u"ROOM 2");
-  EXPECT_EQ(singleLinePlain(u"%%065%%228"), u"A\u00E4");
-}
-
-TEST(SingleLinePlain, escapes_become_characters) { EXPECT_EQ(singleLinePlain(u"\\U+03b1x"), u"\u03B1x"); }
-
-TEST(SingleLinePlain, what_is_no_code_stays) {
-  EXPECT_EQ(singleLinePlain(u"5 %% \\U+12 %%9 %%x"), u"5 %% \\U+12 %%9 %%x");
 }

@@ -61,3 +61,17 @@ TEST(TextCharacters, a_surrogate_pair_is_one_character_however_it_is_written) {
 TEST(TextCharacters, raw_text_is_taken_as_it_stands) {
   EXPECT_EQ(read(u"%%c\\U+00e4", true), U"%%c\\U+00e4");
 }
+
+TEST(TextCharacters, each_knows_the_units_that_it_was_read_from) {
+  const auto characters = odReadTextCharacters(u"a%%ub%%d😀\\U+00e4", false, 0);
+  ASSERT_EQ(characters.size(), 5u);
+  const std::vector<std::pair<std::size_t, std::size_t>> wanted{{0, 1}, {4, 5}, {5, 8}, {8, 10}, {10, 17}};
+  for (std::size_t i = 0; i < wanted.size(); ++i)
+    EXPECT_EQ(std::pair(characters[i].first, characters[i].last), wanted[i]) << i;
+}
+
+TEST(ShownCharacters, are_the_text_without_its_codes) {
+  EXPECT_EQ(odShownCharacters(u"%%c20 %%p0.5 at 45%%d, 100%%%"), u"∅20 ±0.5 at 45°, 100%");
+  EXPECT_EQ(odShownCharacters(u"%%uROOM%%u 2 😀"), u"ROOM 2 😀");
+  EXPECT_EQ(odShownCharacters(u"%%065%%228\\U+03b1"), u"Aäα");
+}
