@@ -1,8 +1,11 @@
 #include "od/fonts/FontFolders.h"
 
 #include <filesystem>
+#include <map>
+#include <set>
 
 #include "od/base/unicode.h"
+#include "od/fonts/font_file.h"
 
 std::optional<std::string> FontFolders::find(std::u16string_view fileName) const {
   std::u16string key = odLowerAscii(fileName);
@@ -12,6 +15,18 @@ std::optional<std::string> FontFolders::find(std::u16string_view fileName) const
     if (found != files.end()) return found->second;
   }
   return std::nullopt;
+}
+
+std::vector<std::string> FontFolders::withExtension(std::u16string_view extension) const {
+  std::vector<std::string> paths;
+  std::set<std::u16string> known;
+  for (const std::string& folder : m_folders) {
+    const Listing& files = listing(folder);
+    for (const auto& [name, path] : std::map(files.begin(), files.end())) {
+      if (odExtensionOf(name) == extension && known.insert(name).second) paths.push_back(path);
+    }
+  }
+  return paths;
 }
 
 const FontFolders::Listing& FontFolders::listing(const std::string& folder) const {

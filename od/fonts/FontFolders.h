@@ -14,6 +14,9 @@ class FontFolders {
   void add(const std::string& folder) { m_folders.push_back(folder); }
   const std::vector<std::string>& folders() const { return m_folders; }
 
+  /// The paths of all files with an extension in lower case, by folder, each folder's by name. Of files of
+  /// one name the first folder's is there alone.
+  std::vector<std::string> withExtension(std::u16string_view extension) const;
   /// The path of the first file of that name; nothing when there is none.
   std::optional<std::string> find(std::u16string_view fileName) const;
 

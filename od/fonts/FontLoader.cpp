@@ -10,8 +10,22 @@
 #include "od/fonts/TypefaceIndex.h"
 #include "od/fonts/font_file.h"
 
+namespace {
+
+/// True for what a text can be written in; big fonts only go beside another font.
+bool holdsLetters(const std::string& path) {
+  try {
+    const ShxFile file = ShxFile::parse(odReadFontFile(path), path);
+    return file.isTextFont() && !file.isBigfont();
+  } catch (const OdError&) {
+    return false;
+  }
+}
+
+}  // namespace
+
 FontLoader::FontLoader(OdFontPlaces places)
-    : m_search(std::move(places.searchPaths)), m_strokes(std::move(places.strokeFontPaths)) {}
+    : m_search(std::move(places.searchPaths)), m_shapes({}), m_strokes(std::move(places.strokeFontPaths)) {}
 
 FontLoader::~FontLoader() = default;
 
@@ -41,7 +55,18 @@ std::optional<std::string> FontLoader::findShapeFile(std::u16string_view name) c
   std::error_code failure;
   if (path.find('/') != path.npos && std::filesystem::is_regular_file(path, failure)) return path;
   if (auto found = m_search.find(odFileNameOf(whole))) return found;
+  if (auto found = m_shapes.find(odFileNameOf(whole))) return found;
   return m_strokes.find(odFileNameOf(whole));
+}
+
+std::vector<std::u16string> FontLoader::shapeFontFiles() const {
+  FontFolders folders = m_search;
+  for (const std::string& folder : m_shapes.folders()) folders.add(folder);
+  std::vector<std::u16string> names;
+  for (const std::string& path : folders.withExtension(u"shx")) {
+    if (holdsLetters(path)) names.emplace_back(odFileNameOf(odToUtf16(path)));
+  }
+  return names;
 }
 
 std::optional<std::string> FontLoader::findTypefaceFile(std::u16string_view name) const {

@@ -4,6 +4,7 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "od/fonts/FontFolders.h"
 #include "od/fonts/OdFontLibrary.h"
@@ -18,15 +19,18 @@ class FontLoader {
   ~FontLoader();
 
   void addSearchPath(const std::string& folder);
+  void addShapeFontFolder(const std::string& folder) { m_shapes.add(folder); }
 
   /// The installed typefaces; listed when first asked for.
   const TypefaceIndex& typefaces();
   /// Throws `OdError` when the file cannot be used.
   std::shared_ptr<const OdFont> typeface(const OdTypefaceFile& file);
 
-  /// The path of a shape or stroke font: as it stands, in the search paths, among the stroke fonts. `.shx` is
-  /// added to a name without extension.
+  /// The path of a shape or stroke font: as it stands, in the search paths, in the folders of shape fonts,
+  /// among the stroke fonts. `.shx` is added to a name without extension.
   std::optional<std::string> findShapeFile(std::u16string_view name) const;
+  /// File names of the compiled shape fonts in the search paths that hold letters.
+  std::vector<std::u16string> shapeFontFiles() const;
   /// The path of a typeface's file in the search paths.
   std::optional<std::string> findTypefaceFile(std::u16string_view name) const;
 
@@ -46,6 +50,7 @@ class FontLoader {
   };
 
   FontFolders m_search;
+  FontFolders m_shapes;
   FontFolders m_strokes;
   OdFreeType m_freeType;
   std::unique_ptr<TypefaceIndex> m_typefaces;

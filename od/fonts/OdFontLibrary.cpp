@@ -1,5 +1,6 @@
 #include "od/fonts/OdFontLibrary.h"
 
+#include <algorithm>
 #include <map>
 
 #include "od/base/OdError.h"
@@ -97,6 +98,26 @@ OdFontLibrary::OdFontLibrary(OdFontPlaces places) : m_state(new State(std::move(
 OdFontLibrary::~OdFontLibrary() = default;
 
 void OdFontLibrary::addSearchPath(const std::string& folder) { m_state->loader->addSearchPath(folder); }
+
+void OdFontLibrary::addShapeFontFolder(const std::string& folder) {
+  m_state->loader->addShapeFontFolder(folder);
+}
+
+std::vector<OdInstalledTypeface> OdFontLibrary::installedTypefaces() const {
+  return m_state->loader->typefaces().families();
+}
+
+std::vector<std::u16string> OdFontLibrary::shapeFonts() const { return m_state->loader->shapeFontFiles(); }
+
+bool OdFontLibrary::hasTypeface(std::u16string_view name) const {
+  return m_state->loader->typefaces().findFamily(name, false, false).has_value();
+}
+
+bool OdFontLibrary::hasShapeFont(std::u16string_view name) const {
+  const std::size_t comma = std::min(name.find(u','), name.size());
+  if (!m_state->loader->findShapeFile(name.substr(0, comma))) return false;
+  return comma == name.size() || m_state->loader->findShapeFile(name.substr(comma + 1));
+}
 
 const std::vector<OdFontSubstitution>& OdFontLibrary::substitutions() const { return m_state->notes->all(); }
 

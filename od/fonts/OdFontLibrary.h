@@ -6,6 +6,7 @@
 
 #include "od/fonts/OdFontRequest.h"
 #include "od/fonts/OdFontSubstitution.h"
+#include "od/fonts/OdInstalledTypeface.h"
 
 class OdFont;
 
@@ -33,6 +34,20 @@ class OdFontLibrary {
 
   /// Adds a folder at the end of the search paths; fonts found before stay what they are.
   void addSearchPath(const std::string& folder);
+
+  /// Adds a folder in which shape fonts are looked for, behind the search paths, and nothing else is: it may
+  /// be any folder of the user's.
+  void addShapeFontFolder(const std::string& folder);
+
+  /// Every installed typeface, by name.
+  std::vector<OdInstalledTypeface> installedTypefaces() const;
+  /// File names of the shape fonts for letters that lie in the folders, by folder and name. Big fonts and
+  /// what stands in for a shape font are not among them.
+  std::vector<std::u16string> shapeFonts() const;
+  /// Whether there is a typeface of that family or full name, and nothing has to stand in for it.
+  bool hasTypeface(std::u16string_view name) const;
+  /// The same for the file of a shape font, or two with a comma between.
+  bool hasShapeFont(std::u16string_view name) const;
 
   /// The font for a request; never null. Throws `OdError(eFileNotFound)` when not even a last resort is
   /// installed.

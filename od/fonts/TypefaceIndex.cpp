@@ -4,9 +4,11 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <map>
 #include <tuple>
 
 #include "od/base/unicode.h"
+#include "od/fonts/charset_of_typeface.h"
 #include "od/fonts/font_file.h"
 
 struct TypefaceIndex::Face {
@@ -45,6 +47,11 @@ int integerAt(const FcPattern* pattern, const char* object, int otherwise) {
   return FcPatternGetInteger(pattern, object, 0, &value) == FcResultMatch ? value : otherwise;
 }
 
+bool truthAt(const FcPattern* pattern, const char* object) {
+  FcBool value = FcFalse;
+  return FcPatternGetBool(pattern, object, 0, &value) == FcResultMatch && value == FcTrue;
+}
+
 int formatRank(const std::string& format) {
   if (format == "TrueType") return 0;
   return format == "CFF" ? 1 : 2;
@@ -65,8 +72,9 @@ TypefaceIndex::~TypefaceIndex() = default;
 
 void TypefaceIndex::readFaces() {
   FcPattern* scalable = FcPatternBuild(nullptr, FC_SCALABLE, FcTypeBool, FcTrue, nullptr);
-  FcObjectSet* objects = FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FAMILY, FC_FULLNAME, FC_WEIGHT, FC_SLANT,
-                                          FC_WIDTH, FC_FONTFORMAT, FC_VARIABLE, FC_CHARSET, nullptr);
+  FcObjectSet* objects =
+      FcObjectSetBuild(FC_FILE, FC_INDEX, FC_FAMILY, FC_FULLNAME, FC_WEIGHT, FC_SLANT, FC_WIDTH,
+                       FC_FONTFORMAT, FC_VARIABLE, FC_CHARSET, FC_SPACING, FC_SYMBOL, nullptr);
   m_lists->fonts = FcFontList(m_lists->config, scalable, objects);
   FcObjectSetDestroy(objects);
   FcPatternDestroy(scalable);
@@ -141,6 +149,22 @@ std::optional<OdTypefaceFile> TypefaceIndex::findCharacter(char32_t character) c
   }
   if (having.empty()) return std::nullopt;
   return best(having, false, false)->file;
+}
+
+std::vector<OdInstalledTypeface> TypefaceIndex::families() const {
+  std::map<std::u16string, OdInstalledTypeface> byKey;
+  for (const Face& face : m_faces) {
+    const std::u16string name = odToUtf16(textAt(face.pattern, FC_FAMILY, 0));
+    if (name.empty()) continue;
+    byKey.try_emplace(nameKey(name),
+                      OdInstalledTypeface{
+                          .name = name,
+                          .fixedPitch = integerAt(face.pattern, FC_SPACING, FC_PROPORTIONAL) >= FC_MONO,
+                          .charset = odCharsetOfTypeface(face.characters, truthAt(face.pattern, FC_SYMBOL))});
+  }
+  std::vector<OdInstalledTypeface> result;
+  for (auto& [key, family] : byKey) result.push_back(std::move(family));
+  return result;
 }
 
 std::optional<OdTypefaceFile> TypefaceIndex::findAny() const {

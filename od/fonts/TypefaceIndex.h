@@ -7,6 +7,7 @@
 #include <unordered_map>
 #include <vector>
 
+#include "od/fonts/OdInstalledTypeface.h"
 #include "od/fonts/OdTrueTypeFont.h"
 
 /// The scalable faces that are installed, as fontconfig lists them. Only the list is asked for: which face is
@@ -26,6 +27,8 @@ class TypefaceIndex {
   std::optional<OdTypefaceFile> findFile(std::u16string_view fileName) const;
   /// A face that has a character, upright and of regular weight if there is one.
   std::optional<OdTypefaceFile> findCharacter(char32_t character) const;
+  /// Every family once, by name.
+  std::vector<OdInstalledTypeface> families() const;
   /// Any face at all.
   std::optional<OdTypefaceFile> findAny() const;
 

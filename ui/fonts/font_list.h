@@ -1,8 +1,6 @@
 #pragma once
 
-#include <optional>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include "mtext/format_string.h"
@@ -21,11 +19,13 @@ struct font_row {
   friend bool operator==(const font_row&, const font_row&) = default;  ///< field by field
 };
 
-/// The fonts of this machine and of the library's folders: shape fonts by file name, then typefaces by name.
+/// The fonts of the machine and of the library's folders: shape fonts by folder and file name, then typefaces
+/// by name.
 std::vector<font_row> font_rows(const OdFontLibrary& library);
 
-/// The row of a font that a text uses and the machine does not have.
-font_row missing_row(const mtext::format::string& format);
+/// The row of the font that a text uses, for a list that does not have it. The font of `format` has to be
+/// set.
+font_row row_of(const mtext::format::string_partial& format, const OdFontLibrary& library);
 
 /// Font, kind, pitch and character set of a row, as a change of a text's format.
 mtext::format::string_partial format_of(const font_row& row);

@@ -2,6 +2,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "od/base/OdError.h"
 #include "od/base/unicode.h"
 #include "od/fonts/OdFont.h"
@@ -235,4 +237,59 @@ TEST(OdFontLibrary, fonts_outlive_their_library) {
   }
   EXPECT_EQ(font->glyph(U'O')->advance.x, 1593);
   EXPECT_TRUE(font->glyph(U'☀')->filled) << "even for characters that it has to look for";
+}
+
+TEST(OdFontLibrary, lists_every_installed_typeface_once_by_name) {
+  const auto typefaces = OdFontLibrary().installedTypefaces();
+  const auto named = [&](std::u16string_view name) {
+    return std::ranges::count(typefaces, name, &OdInstalledTypeface::name);
+  };
+  EXPECT_EQ(named(u"Liberation Serif"), 1);
+  EXPECT_EQ(named(u"DejaVu Sans Mono"), 1);
+  EXPECT_TRUE(
+      std::ranges::is_sorted(typefaces, {}, [](const auto& each) { return odLowerAscii(each.name); }));
+}
+
+TEST(OdFontLibrary, tells_pitch_and_character_set_of_a_typeface) {
+  const auto typefaces = OdFontLibrary().installedTypefaces();
+  const auto of = [&](std::u16string_view name) {
+    return *std::ranges::find(typefaces, name, &OdInstalledTypeface::name);
+  };
+  EXPECT_EQ(of(u"Liberation Mono"), (OdInstalledTypeface{u"Liberation Mono", true, 0}));
+  EXPECT_EQ(of(u"Liberation Sans"), (OdInstalledTypeface{u"Liberation Sans", false, 0}));
+}
+
+TEST(OdFontLibrary, lists_the_shape_fonts_of_its_folders_that_hold_letters) {
+  const FontFolder first, second;
+  first.write("plain.SHX", kPlainShx);
+  first.write("broken.shx", "no font at all");
+  first.write("notes.txt", "nothing");
+  second.write("Plain.shx", kPlainShx);
+  second.write("another.shx", kPlainShx);
+  OdFontLibrary library;
+  library.addShapeFontFolder(first.path());
+  library.addShapeFontFolder(second.path());
+  EXPECT_EQ(library.shapeFonts(), (std::vector<std::u16string>{u"plain.SHX", u"another.shx"}));
+}
+
+TEST(OdFontLibrary, finds_shape_fonts_in_the_folders_for_them) {
+  const FontFolder folder;
+  folder.write("plain.shx", kPlainShx);
+  OdFontLibrary library;
+  library.addShapeFontFolder(folder.path());
+  EXPECT_EQ(library.find({.file = u"Plain"})->name(), u"plain.shx");
+  EXPECT_EQ(substituted(library), "");
+}
+
+TEST(OdFontLibrary, knows_what_nothing_has_to_stand_in_for) {
+  const FontFolder folder;
+  folder.write("plain.shx", kPlainShx);
+  OdFontLibrary library;
+  library.addShapeFontFolder(folder.path());
+  EXPECT_TRUE(library.hasTypeface(u"liberation sans"));
+  EXPECT_FALSE(library.hasTypeface(u"Arial"));
+  EXPECT_TRUE(library.hasShapeFont(u"plain"));
+  EXPECT_FALSE(library.hasShapeFont(u"romans.shx"));
+  EXPECT_FALSE(library.hasShapeFont(u"plain,nobig"));
+  EXPECT_TRUE(library.hasShapeFont(u"plain.shx,plain.shx"));
 }
