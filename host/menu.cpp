@@ -14,7 +14,9 @@ std::map<int, std::span<const ResourceMenuRow>>& menus() {
 }
 
 HostMenuItem row_of(const ResourceMenuRow& resource) {
-  return {.command = resource.command, .text = Supp_Translate(resource.text), .hint = resource.hint};
+  return {.command = resource.command,
+          .text = Supp_Translate(resource.text),
+          .hint = Supp_Translate(resource.hint)};
 }
 
 bool same_row(const ResourceMenuRow& a, const ResourceMenuRow& b) {

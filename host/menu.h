@@ -26,7 +26,7 @@ struct ResourceMenuRow {
   int depth;                   ///< 0 at the top; never more than one deeper than the row before
   int command;                 ///< 0 for a separator and for a row that opens a sub-menu
   const char16_t* text;        ///< not translated yet; empty for a separator
-  const char16_t* hint = u"";  ///< not translated
+  const char16_t* hint = u"";  ///< not translated yet
 };
 
 /// A menu by its number.
