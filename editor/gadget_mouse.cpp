@@ -1,5 +1,6 @@
 #include "editor/gadget_mouse.h"
 
+#include "editor/drag_tip.h"
 #include "editor/smart_edit.h"
 #include "micui/hit_path.h"
 #include "micui/resizer.h"
@@ -55,21 +56,48 @@ void gadget_mouse::drag(const OdGePoint2d& at) {
   drag_corner(at);
   drag_tab(at);
   m_session.gadgets().refreshed();
+  show_tip();
   m_session.repaint(redraw_request::kGadgets);
 }
 
 void gadget_mouse::release(const std::optional<OdGePoint2d>& at) {
   const ExMTextEditablePtr alive(&m_session.editable());
-  mtext::editor& root = m_session.gadgets().root();
-  const bool was_draft = alive->isDraft();
-  alive->setDraft(false);
-  root.guide.reset();
+  const bool was_draft = end_draft();
+  hide_tip();
+  m_session.gadgets().root().guide.reset();
   m_session.gadgets().refreshed();
   m_session.mouse().release();
   if (at) release_tab(*at);
   m_path.clear();
   m_session.gadgets().read_settings();
   m_session.repaint(redraw_request::kGadgets | (was_draft ? redraw_request::kText : 0u));
+}
+
+void gadget_mouse::forget() {
+  if (!is_pressed()) return;
+  if (HostWindow* window = m_session.window()) window->releaseMouse();
+  hide_tip();
+  m_path.clear();
+  m_session.gadgets().root().guide.reset();
+  m_session.repaint(redraw_request::kGadgets | (end_draft() ? redraw_request::kText : 0u));
+}
+
+bool gadget_mouse::end_draft() {
+  const bool was_draft = m_session.editable().isDraft();
+  m_session.editable().setDraft(false);
+  return was_draft;
+}
+
+void gadget_mouse::show_tip() const {
+  const mtext::editor& root = m_session.gadgets().root();
+  const auto measures = mtext::drag_measures(root, m_path, m_tab_drag ? &*m_tab_drag : nullptr,
+                                             m_indent_drag ? &*m_indent_drag : nullptr);
+  HostWindow* window = m_session.window();
+  if (window && !measures.empty()) window->showTip(editing::drag_tip(measures, root.text_height));
+}
+
+void gadget_mouse::hide_tip() const {
+  if (HostWindow* window = m_session.window()) window->hideTip();
 }
 
 bool gadget_mouse::is_over_text(const OdGePoint2d& at) const {

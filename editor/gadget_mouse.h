@@ -25,6 +25,9 @@ class gadget_mouse {
   void drag(const OdGePoint2d& at);
   /// Without a point the button was released where the view shows none of the text's plane.
   void release(const std::optional<OdGePoint2d>& at);
+  /// A key, a menu or a failure ends the press: the button may be let go where nobody hears of it, and moves
+  /// are no drag any more. What was dragged stays as it is.
+  void forget();
   /// Whether a press is being held.
   bool is_pressed() const { return !m_path.empty(); }
   /// Whether a press at a point would go into the text.
@@ -43,6 +46,10 @@ class gadget_mouse {
   void release_tab(const OdGePoint2d& at);
   void change_columns(const mtext::column_settings& columns);
   void close_edit();
+  void show_tip() const;
+  void hide_tip() const;
+  /// Draws letters again where a drag had boxes in their place. True if there were any.
+  bool end_draft();
   void drop_lost_paragraphs();
   bool path_holds(std::u16string_view name) const;
   bool path_ends_in_text(const micui::control_path& path, const OdGePoint2d& at) const;

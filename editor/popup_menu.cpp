@@ -43,7 +43,7 @@ void show_popup_menu(smart_edit& session, const HostWindowMessage& message, cons
   const ExMTextEditablePtr alive(&session.editable());
   const menu_place place{session, session.textPoint(point)};
   const int command = ask(place, message.pixel);
-  session.mouse().forget();
+  session.forgetPress();
   session.typed().forget();
   if (command == 0 || !run_menu_command(command, place)) return;
   session.repaint(redraw_request::kText);

@@ -25,7 +25,7 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
   const ExMTextEditablePtr alive(&session.editable());
   const key_row* row = find_key(message.code, keys_held(message), session);
   if (row) {
-    session.mouse().forget();
+    session.forgetPress();
     session.typed().forget();
     perform(session, *row, message);
   }
@@ -47,7 +47,7 @@ void handle_character(smart_edit& session, const HostWindowMessage& message) {
   const std::u16string character = session.typed().add(unit);
   if (character.empty()) return;
   const ExMTextEditablePtr text(&session.editable());
-  session.mouse().forget();
+  session.forgetPress();
   session.pushUndoStep(kUndoType);
   for (int i = 0; i < message.repeat; ++i) {
     if (is_tab)

@@ -22,7 +22,7 @@ void tell(std::u16string_view sentence) {
 
 void smart_edit::recover(unsigned steps_before, const std::exception& error) {
   m_key_down = false;
-  m_mouse.forget();
+  forgetPress();
   m_typed.forget();
   const bool has_state_before = m_undo.undo_count() > steps_before;
   if (has_state_before || !is_sound(m_editable->text())) m_undo.take_back(*m_editable);

@@ -80,6 +80,11 @@ void smart_edit::fitGadgets() {
   m_gadgets.fit(m_host.view().unitsPerPixel() / magnified);
 }
 
+void smart_edit::forgetPress() {
+  m_mouse.forget();
+  m_gadget_mouse.forget();
+}
+
 void smart_edit::accept() { m_host.commandInput().type(u"^M"); }
 
 void smart_edit::cancel() { m_host.commandInput().type(u"^C"); }

@@ -100,6 +100,8 @@ class smart_edit : public MTextEditor {
   const undo_stack& undo() const { return m_undo; }
   text_mouse& mouse() { return m_mouse; }
   typed_characters& typed() { return m_typed; }
+  /// A key, a command or a failure comes between press and release: moves are no drag any more.
+  void forgetPress();
   /// Ruler and handles; open in a multi-line session alone.
   const gadget_tree& gadgets() const { return m_gadgets; }
   void openGadgets();

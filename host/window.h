@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string_view>
+
 #include "host/input.h"
 #include "host/menu.h"
 
@@ -26,6 +28,10 @@ class HostWindow {
   virtual void takeFocus() = 0;
   /// Shows a menu at a pixel of the view and waits; the chosen command, 0 for none.
   virtual int popupMenu(const HostMenu& menu, HostPixel at) = 0;
+  /// Shows a short text beside the mouse, in place of the one that is shown there already; the mouse takes it
+  /// along. Lines end with a line feed.
+  virtual void showTip(std::u16string_view text) = 0;
+  virtual void hideTip() = 0;
   /// Gives a message to the window behind those that wait.
   virtual void post(unsigned message) = 0;
 

@@ -4,9 +4,13 @@
 
 namespace {
 
-QPen linePen(const QColor& color, double width) {
-  QPen pen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+/// In widths of the line, which is measured in pixels, and so the same at every zoom.
+constexpr double kDash = 6, kDashGap = 4;
+
+QPen linePen(const QColor& color, double width, bool dashed) {
+  QPen pen(color, width, Qt::SolidLine, dashed ? Qt::FlatCap : Qt::RoundCap, Qt::RoundJoin);
   pen.setCosmetic(true);
+  if (dashed) pen.setDashPattern({kDash, kDashGap});
   return pen;
 }
 
@@ -16,7 +20,7 @@ void paintBatch(QPainter& painter, const PaintBatch& batch, const PaintSettings&
   if (batch.style.filled) {
     painter.fillPath(batch.path, color);
   } else {
-    painter.strokePath(batch.path, linePen(color, settings.line_width));
+    painter.strokePath(batch.path, linePen(color, settings.line_width, batch.style.dashed));
   }
 }
 

@@ -10,6 +10,7 @@ struct PaintStyle {
   OdCmEntityColor color;  ///< neither "by layer" nor "by block"
   int alpha = 255;        ///< 0 clear to 255 opaque
   bool filled = false;
+  bool dashed = false;  ///< as a line of dashes that are measured in pixels
 
   friend bool operator==(const PaintStyle&, const PaintStyle&) = default;
 };

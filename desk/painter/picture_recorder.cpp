@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "od/gi/OdGiDrawable.h"
+#include "od/gi/OdGiViewDashes.h"
 #include "od/gi/OdGiWorldDraw.h"
 
 namespace {
@@ -15,6 +16,22 @@ OdCmEntityColor colorOf(const OdGiSubEntityTraits& traits, const OdGiContext& co
   const OdCmEntityColor shown = context.shownColor(traits.trueColor(), traits.layer());
   const bool whiteLayer = traits.trueColor().isByLayer() && shown == OdCmEntityColor(255, 255, 255);
   return whiteLayer ? OdCmEntityColor::fromIndex(OdCmEntityColor::kACIForeground) : shown;
+}
+
+bool isDashed(const OdGiSubEntityTraits& traits) {
+  return traits.lineType() == kOdGiViewDashes;
+}
+
+/// Each segment for itself and from the same end whichever way it is drawn, so that the dashes on both sides
+/// of a very thin frame fall on each other. No usual line is square to the direction that tells the ends
+/// apart.
+void addSegments(QPainterPath& path, const QPolygonF& points) {
+  const auto along = [](QPointF point) { return point.x() + 0.3717 * point.y(); };
+  for (qsizetype i = 1; i < points.size(); ++i) {
+    const bool forwards = along(points[i - 1]) < along(points[i]);
+    path.moveTo(points[forwards ? i - 1 : i]);
+    path.lineTo(points[forwards ? i : i - 1]);
+  }
 }
 
 }  // namespace
@@ -29,7 +46,8 @@ Picture PictureRecorder::record(OdGiDrawable& drawable, const OdGiViewport& view
 
 QPainterPath& PictureRecorder::pathFor(bool filled) {
   const OdGiSubEntityTraits& now = traits();
-  const PaintStyle style{colorOf(now, m_context), now.transparency().alpha(), filled};
+  const PaintStyle style{colorOf(now, m_context), now.transparency().alpha(), filled,
+                         !filled && isDashed(now)};
   if (m_picture.batches.empty() || m_picture.batches.back().style != style) {
     m_picture.batches.push_back({style, {}});
     m_picture.batches.back().path.setFillRule(Qt::WindingFill);
@@ -39,9 +57,13 @@ QPainterPath& PictureRecorder::pathFor(bool filled) {
 
 void PictureRecorder::devicePolyline(std::span<const OdGePoint3d> points) {
   QPainterPath& path = pathFor(false);
-  path.moveTo(m_frame.fromWorld(points.front()));
-  if (points.size() == 1) path.lineTo(m_frame.fromWorld(points.front()));
-  for (const OdGePoint3d& point : points.subspan(1)) path.lineTo(m_frame.fromWorld(point));
+  QPolygonF flat;
+  for (const OdGePoint3d& point : points) flat.push_back(m_frame.fromWorld(point));
+  if (flat.size() == 1) flat.push_back(flat.front());
+  if (isDashed(traits()))
+    addSegments(path, flat);
+  else
+    path.addPolygon(flat);
 }
 
 void PictureRecorder::devicePolygon(std::span<const OdGiContour> contours) {

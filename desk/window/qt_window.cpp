@@ -4,6 +4,7 @@
 #include <QWidget>
 
 #include "desk/window/qt_text.h"
+#include "desk/window/value_tip.h"
 
 namespace {
 
@@ -60,6 +61,15 @@ int QtWindow::popupMenu(const HostMenu& rows, HostPixel at) {
   addRows(menu, rows);
   const QAction* chosen = menu.exec(m_view.mapToGlobal(QPoint(at.x, at.y)));
   return chosen ? chosen->data().toInt() : 0;
+}
+
+void QtWindow::showTip(std::u16string_view text) {
+  if (!m_tip) m_tip = new ValueTip(m_view);
+  m_tip->showAt(m_view.mapFromGlobal(QCursor::pos()), toQt(text));
+}
+
+void QtWindow::hideTip() {
+  if (m_tip) m_tip->hide();
 }
 
 void QtWindow::post(unsigned message) { m_post({.number = message}); }

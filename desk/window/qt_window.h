@@ -5,6 +5,7 @@
 #include "host/window.h"
 
 class QWidget;
+class ValueTip;
 
 /// The drawing view as modules see it.
 class QtWindow : public HostWindow {
@@ -20,9 +21,12 @@ class QtWindow : public HostWindow {
   void releaseMouse() override {}
   void takeFocus() override;
   int popupMenu(const HostMenu& rows, HostPixel at) override;
+  void showTip(std::u16string_view text) override;
+  void hideTip() override;
   void post(unsigned message) override;
 
  private:
   QWidget& m_view;
+  ValueTip* m_tip = nullptr;  ///< a child of the view, made when it is first needed
   std::function<void(const HostWindowMessage&)> m_post;
 };

@@ -15,6 +15,8 @@ class WindowlessWindow : public HostWindow {
   void releaseMouse() override { m_captured = false; }
   void takeFocus() override {}
   int popupMenu(const HostMenu& menu, HostPixel at) override;
+  void showTip(std::u16string_view text) override { m_tip = text; }
+  void hideTip() override { m_tip.clear(); }
   void post(unsigned message) override { m_posted.push_back(message); }
 
   /// Chooses this command in the next menu.
@@ -26,6 +28,8 @@ class WindowlessWindow : public HostWindow {
   const std::vector<std::u16string>& refused() const { return m_refused; }
   HostCursor cursor() const { return m_cursor; }
   bool isCaptured() const { return m_captured; }
+  /// The text beside the mouse; empty while none is shown.
+  const std::u16string& tip() const { return m_tip; }
   /// The rows of the menu shown last.
   const HostMenu& lastMenu() const { return m_last_menu; }
   /// Where it was shown.
@@ -36,6 +40,7 @@ class WindowlessWindow : public HostWindow {
  private:
   HostCursor m_cursor = IDC_ARROW;
   bool m_captured = false;
+  std::u16string m_tip;
   std::deque<std::u16string> m_choices;
   std::vector<std::u16string> m_refused;
   HostMenu m_last_menu;

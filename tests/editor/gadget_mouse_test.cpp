@@ -168,6 +168,87 @@ TEST(GadgetMouse, a_long_text_is_drawn_as_boxes_until_the_sizer_is_let_go) {
   EXPECT_FALSE(hand.session->editable().isDraft());
 }
 
+TEST(GadgetMouse, a_drag_of_a_handle_tells_its_value_beside_the_mouse_until_it_is_let_go) {
+  mouse_at_work hand;
+  hand.begin();
+  const WindowlessWindow& window = hand.application.window();
+  hand.press(41, 1.6);
+  EXPECT_EQ(window.tip(), u"");
+  hand.move(25, 1.6);
+  EXPECT_EQ(window.tip(), u"Width: 25 (10 text heights)");
+  hand.move(30, 1.6);
+  EXPECT_EQ(window.tip(), u"Width: 30 (12 text heights)");
+  hand.release(30, 1.6);
+  EXPECT_EQ(window.tip(), u"");
+}
+
+TEST(GadgetMouse, a_drag_in_the_strip_tells_the_place_of_the_stop_or_the_indent) {
+  mouse_at_work hand;
+  hand.begin();
+  const WindowlessWindow& window = hand.application.window();
+  hand.press(10, 1.6);
+  hand.move(20.2, 1.6);
+  EXPECT_EQ(window.tip(), u"Tab stop: 20 (8 text heights)");
+  hand.release(20.2, 1.6);
+  hand.press(0.1, 1);
+  hand.move(7.4, 1);
+  EXPECT_EQ(window.tip(), u"Left indent: 7.5 (3 text heights)");
+}
+
+TEST(GadgetMouse, a_drag_of_an_indent_takes_the_stop_of_the_drag_before_along) {
+  mouse_at_work hand;
+  hand.begin();
+  hand.drag({10, 1.6}, {15, 1.6});
+  hand.drag({0.1, 1}, {7.4, 1});
+  EXPECT_EQ(hand.session->editable().text().format.left, 3);
+  EXPECT_EQ(hand.tabs(), at{3}) << "a press on an indent deliberately leaves the drag of a stop as it is";
+}
+
+TEST(GadgetMouse, a_drag_over_text_tells_nothing) {
+  mouse_at_work hand;
+  hand.begin();
+  hand.press(3, -1.5);
+  hand.move(5, -1.5);
+  EXPECT_FALSE(hand.session->editable().selections()[0].empty());
+  EXPECT_EQ(hand.application.window().tip(), u"");
+}
+
+TEST(GadgetMouse, a_key_between_press_and_release_ends_the_drag_and_leaves_what_it_did) {
+  mouse_at_work hand;
+  hand.begin();
+  hand.press(41, 1.6);
+  hand.move(25, 1.6);
+  hand.type(u"x");
+  EXPECT_EQ(hand.application.window().tip(), u"");
+  EXPECT_FALSE(hand.application.window().isCaptured());
+  hand.move(15, 1.6);
+  EXPECT_EQ(hand.columns().width, 25);
+  hand.release(15, 1.6);
+  EXPECT_EQ(hand.columns().width, 25);
+}
+
+TEST(GadgetMouse, a_menu_between_press_and_release_ends_the_drag_with_its_guide) {
+  mouse_at_work hand;
+  hand.begin();
+  hand.press(10, 1.6);
+  EXPECT_TRUE(hand.session->gadgets().root().guide);
+  hand.event(WM_RBUTTONUP, 5, -1);
+  EXPECT_FALSE(hand.session->gadgets().root().guide);
+  hand.move(20.2, 1.6);
+  EXPECT_EQ(hand.tabs(), at{4});
+}
+
+TEST(GadgetMouse, a_key_in_the_drag_of_a_long_text_draws_its_letters_again) {
+  mouse_at_work hand;
+  hand.text->setContents(OdString(std::u16string(5000, u'a')));
+  hand.begin();
+  hand.press(41, 1.6);
+  hand.move(30, 1.6);
+  EXPECT_TRUE(hand.session->editable().isDraft());
+  hand.send({.number = WM_KEYDOWN, .code = VK_LEFT});
+  EXPECT_FALSE(hand.session->editable().isDraft());
+}
+
 TEST(GadgetMouse, a_single_line_session_has_no_gadgets) {
   mouse_at_work hand;
   hand.session.emplace(hand.application.document());

@@ -7,6 +7,7 @@
 #include "desk/painter/paint_picture.h"
 #include "desk/painter/picture_recorder.h"
 #include "od/gi/OdGiDrawable.h"
+#include "od/gi/OdGiViewDashes.h"
 #include "od/gi/OdGiWorldDraw.h"
 
 namespace {
@@ -72,6 +73,59 @@ TEST(Picture, a_hole_stays_open) {
   });
   EXPECT_EQ(image.pixelColor(20, 50), QColor(255, 0, 0));
   EXPECT_EQ(image.pixelColor(50, 50), QColor(Qt::black));
+}
+
+namespace {
+
+/// How often a column of pixels goes over from the ground to a line.
+int dashesIn(const QImage& image, int column) {
+  int dashes = 0;
+  for (int row = 1; row < image.height(); ++row)
+    dashes += image.pixelColor(column, row).red() > 100 && image.pixelColor(column, row - 1).red() <= 100;
+  return dashes;
+}
+
+void drawThinFrame(OdGiGeometry& pen, const char16_t* lineType) {
+  pen.traits().setColor(1);
+  pen.traits().setLineType(lineType);
+  pen.polyline({{50.5, 95, 0}, {50.6, 95, 0}, {50.6, 5, 0}, {50.5, 5, 0}, {50.5, 95, 0}});
+}
+
+}  // namespace
+
+TEST(Picture, the_dashes_of_the_view_show_gaps_in_a_thin_frame_too) {
+  const QImage image =
+      painted([](OdGiGeometry& pen) { drawThinFrame(pen, kOdGiViewDashes); });
+  EXPECT_GE(dashesIn(image, 50), 8);
+  EXPECT_LE(dashesIn(image, 50), 10);
+}
+
+TEST(Picture, other_line_types_are_drawn_through) {
+  EXPECT_EQ(dashesIn(painted([](OdGiGeometry& pen) { drawThinFrame(pen, u"DASHED"); }), 50), 1);
+}
+
+TEST(Picture, dashes_are_as_long_at_every_zoom) {
+  const auto dashes_at = [](double field) {
+    OdGsView view;
+    view.setDeviceRect({0, 0, 100, 100});
+    view.setView({50, 50, 1}, {50, 50, 0}, {0, 1, 0}, field, field);
+    const PictureFrame frame(view);
+    QImage image(100, 100, QImage::Format_RGB32);
+    image.fill(Qt::black);
+    QPainter painter(&image);
+    const Picture line = pictureOf(view, frame, [](OdGiGeometry& pen) {
+      pen.traits().setColor(1);
+      pen.traits().setLineType(kOdGiViewDashes);
+      pen.polyline({{50.25, 1000, 0}, {50.25, -1000, 0}});
+    });
+    paintPicture(painter, line, {PaintColors(Background::dark), frame.toDevice(view)},
+                 QRectF(0, 0, 100, 100));
+    painter.end();
+    return dashesIn(image, static_cast<int>(50 + 25 / field));
+  };
+  EXPECT_NEAR(dashes_at(100), 10, 1);
+  EXPECT_NEAR(dashes_at(20), 10, 1);
+  EXPECT_NEAR(dashes_at(1), 10, 1);
 }
 
 TEST(Picture, an_arc_of_three_quarters_leaves_the_fourth_out) {
