@@ -18,21 +18,21 @@ class CSymbolDlg {
   CSymbolDlg(const mtext::format::string& font, IProfile* profile);
 
   const mtext::format::string& font() const { return m_font; }
-  const std::vector<unicode_block>& blocks() const { return m_blocks; }
+  const std::vector<unicode_block>& blocks() const { return dialogs::unicode_blocks(); }
   /// What was used last, newest first.
   const std::vector<char32_t>& recent() const { return m_recent; }
 
   /// The characters to choose from: those of the block, or what the search finds.
   const std::vector<char32_t>& characters() const { return m_characters; }
-  /// The block that is shown; nothing while a search is.
-  std::optional<std::size_t> block() const { return m_block; }
+  /// The block that is shown, or shown again after the search.
+  std::size_t block() const { return m_block; }
   void showBlock(std::size_t block);
-  /// Shows the characters whose names have all the words of a text, or that the text is ("U+00B0", "°"). The
-  /// empty text goes back to the block.
+  /// Shows the characters that a text looks for; the text of blanks goes back to the block. The first one is
+  /// selected then, unless nothing was found.
   void search(std::u16string_view text);
 
   char32_t selected() const { return m_selected; }
-  void select(char32_t character);
+  void select(char32_t character) { m_selected = character; }
 
   /// Shows the dialog until it is closed; true for OK, and the character counts as used.
   bool doModal();
@@ -40,11 +40,9 @@ class CSymbolDlg {
  private:
   mtext::format::string m_font;
   IProfile* m_profile;
-  std::vector<unicode_block> m_blocks;
   std::vector<char32_t> m_recent;
   std::vector<char32_t> m_characters;
-  std::optional<std::size_t> m_block;
-  std::size_t m_last_block = 0;
+  std::size_t m_block = 0;
   char32_t m_selected;
 };
 
