@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 #include "commands/letter_case.h"
 #include "mtext/letters_dictionary.h"
@@ -15,3 +16,7 @@
 std::u16string case_of_contents(const std::u16string& contents, double height, case_mode mode,
                                 const mtext::string_size_finder& finder,
                                 const mtext::marks::letters_dictionary& letters);
+
+/// The codes of a single-line text with its letters in another case. Control sequences such as "%%d" are
+/// letters like all others; the marker of a field stays, and counts as a blank.
+std::u16string case_of_line(std::u16string_view codes, case_mode mode);

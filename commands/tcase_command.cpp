@@ -4,6 +4,7 @@
 
 #include "commands/case_of_contents.h"
 #include "commands/selected_texts.h"
+#include "commands/text_codes.h"
 #include "editor/current_space.h"
 #include "host/document.h"
 #include "host/prompt.h"
@@ -50,15 +51,12 @@ bool choose_mode(HostEdPrompt& prompt) {
   return true;
 }
 
-void change_case(OdDbText& text, case_mode mode) {
-  case_state state(mode);
-  text.setTextString(in_case(text.textString().str(), state));
-}
+void change_case(OdDbText& text, case_mode mode) { set_codes(text, case_of_line(codes_of(text), mode)); }
 
 void change_case(OdDbMText& text, case_mode mode) {
   const mtext::mtext_size_finder finder{OdDbDatabasePtr(text.database())};
-  text.setContents(case_of_contents(text.contents().str(), text.textHeight(), mode, finder,
-                                    mtext::marks::default_letters()));
+  set_codes(text, case_of_contents(codes_of(text), text.textHeight(), mode, finder,
+                                   mtext::marks::default_letters()));
 }
 
 template <class Text>

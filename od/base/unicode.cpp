@@ -34,6 +34,14 @@ std::basic_string<To> recode(std::basic_string_view<From> text) {
 
 std::u16string odToUtf16(std::string_view utf8) { return recode<char16_t>(utf8); }
 
+std::u16string odToUtf16(char32_t character) {
+  // Half a pair, which is no character, stays what it is.
+  if (character < 0x10000) return {static_cast<char16_t>(character)};
+  std::u16string pair;
+  boost::locale::utf::utf_traits<char16_t>::encode(character, std::back_inserter(pair));
+  return pair;
+}
+
 std::string odToUtf8(std::u16string_view utf16) { return recode<char>(utf16); }
 
 std::u16string odLowerAscii(std::u16string_view text) {

@@ -9,6 +9,9 @@
 /// drawings.
 SCRIBE_EXPORT std::u16string odToUtf16(std::string_view utf8);
 
+/// One character in UTF-16: one unit, or a surrogate pair.
+SCRIBE_EXPORT std::u16string odToUtf16(char32_t character);
+
 /// UTF-16 to UTF-8. A lone surrogate becomes U+FFFD.
 SCRIBE_EXPORT std::string odToUtf8(std::u16string_view utf16);
 

@@ -5,12 +5,11 @@
 #include <optional>
 #include <string>
 
+#include "od/base/unicode.h"
 #include "od/fonts/OdCharMapper.h"
 
 namespace {
 
-/// What a byte means where the drawing does not say.
-constexpr int kUsualCodePage = 1252;
 constexpr char32_t kDegree = 0xB0, kPlusMinus = 0xB1, kDiameter = 0x2205;
 /// Code pages of `\M+1` to `\M+5`.
 constexpr std::array kMultiByteCodePages{932, 950, 949, 1361, 936};
@@ -148,13 +147,7 @@ std::vector<OdGiTextCharacter> odReadTextCharacters(std::u16string_view text, bo
 
 std::u16string odShownCharacters(std::u16string_view text) {
   std::u16string shown;
-  for (const OdGiTextCharacter& each : odReadTextCharacters(text, /*raw=*/false, kUsualCodePage)) {
-    if (each.character >= 0x10000) {
-      shown += static_cast<char16_t>(0xD7C0 + (each.character >> 10));
-      shown += static_cast<char16_t>(0xDC00 + (each.character & 0x3FF));
-    } else {
-      shown += static_cast<char16_t>(each.character);
-    }
-  }
+  for (const OdGiTextCharacter& each : odReadTextCharacters(text, /*raw=*/false, kOdUsualCodePage))
+    shown += odToUtf16(each.character);
   return shown;
 }

@@ -5,6 +5,9 @@
 #include <string_view>
 #include <vector>
 
+/// What a byte of a text means where its drawing does not say.
+inline constexpr int kOdUsualCodePage = 1252;
+
 /// One character to be drawn, and the lines that run along with it.
 struct OdGiTextCharacter {
   char32_t character = 0;

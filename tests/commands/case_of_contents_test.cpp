@@ -38,3 +38,7 @@ TEST(CaseOfContents, a_field_keeps_its_code_and_counts_as_a_blank) {
   EXPECT_EQ(changed(u"a%<\\AcVar Date>%b", case_mode::title), u"{\\H1x;A%<\\AcVar Date>%B}");
   EXPECT_EQ(changed(u"a%<\\AcVar Date>%b", case_mode::sentence), u"{\\H1x;A%<\\AcVar Date>%b}");
 }
+
+TEST(CaseOfLine, the_marker_of_a_field_stays_and_counts_as_a_blank) {
+  EXPECT_EQ(case_of_line(u"see %<\\_FldIdx 0>%end", case_mode::title), u"See %<\\_FldIdx 0>%End");
+}

@@ -16,8 +16,7 @@ json case_of_multi_line(const json& in) {
 }
 
 json case_of_single_line(const json& in) {
-  case_state state(mode_of(in));
-  return {{"text", write_text(in_case(text_member(in, "text"), state))}};
+  return {{"text", write_text(case_of_line(text_member(in, "text"), mode_of(in)))}};
 }
 
 }  // namespace

@@ -1,0 +1,57 @@
+#include "commands/text_codes.h"
+
+#include "od/field/OdDbField.h"
+
+namespace {
+
+constexpr const char16_t* kFieldName = u"TEXT";
+
+OdDbFieldPtr field_of(const OdDbEntity& text) { return odCast<OdDbField>(text.getField(kFieldName)); }
+
+std::vector<OdDbFieldPtr> children_of(const OdDbField& field) {
+  std::vector<OdDbFieldPtr> children;
+  for (int i = 0; i < field.childCount(); ++i) children.push_back(field.getChild(i));
+  return children;
+}
+
+/// Writes codes into the field of a text; false when it has none.
+bool set_field_codes(OdDbEntity& text, const std::u16string& codes) {
+  const OdDbFieldPtr field = field_of(text);
+  if (!field) return false;
+  field->setFieldCode(codes, OdDbField::kTextField, children_of(*field));
+  text.setField(kFieldName, *field);
+  return true;
+}
+
+}  // namespace
+
+std::u16string codes_of(const OdDbMText& text) {
+  const OdDbFieldPtr field = field_of(text);
+  return (field ? field->getFieldCode(OdDbField::kFieldCode) : text.contents()).str();
+}
+
+std::u16string codes_of(const OdDbText& text) {
+  const OdDbFieldPtr field = field_of(text);
+  return (field ? field->getFieldCode(OdDbField::kFieldCode) : text.textString()).str();
+}
+
+void set_codes(OdDbMText& text, const std::u16string& codes) {
+  if (!set_field_codes(text, codes)) text.setContents(codes);
+}
+
+void set_codes(OdDbText& text, const std::u16string& codes) {
+  if (!set_field_codes(text, codes)) text.setTextString(codes);
+  if (!text.isDefaultAlignment()) text.adjustAlignment();
+}
+
+std::vector<marker_range> field_marker_ranges(std::u16string_view codes) {
+  constexpr std::u16string_view kOpening = u"%<\\_FldIdx ", kClosing = u">%";
+  std::vector<marker_range> ranges;
+  for (std::size_t at = codes.find(kOpening); at != codes.npos; at = codes.find(kOpening, at)) {
+    const std::size_t closing = codes.find(kClosing, at);
+    if (closing == codes.npos) break;
+    ranges.push_back({at, closing + kClosing.size()});
+    at = ranges.back().last;
+  }
+  return ranges;
+}
