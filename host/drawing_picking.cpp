@@ -1,6 +1,7 @@
 #include "host/drawing_picking.h"
 
 #include "host/entity_hit.h"
+#include "host/pickable_entities.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbEntity.h"
@@ -9,7 +10,7 @@ namespace {
 
 bool is_hit(const OdDbObjectId& id, const OdGePoint3d& point, double aperture) {
   const OdDbEntityPtr entity = odCast<OdDbEntity>(id.openObject());
-  return entity && entity->visibility() == OdDb::kVisible && host::hits_entity(*entity, point, aperture);
+  return host::is_pickable(id) && host::hits_entity(*entity, point, aperture);
 }
 
 }  // namespace

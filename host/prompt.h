@@ -71,9 +71,10 @@ class HostEdPrompt {
   /// A line of text, with `keywords` as in a request and `HostReadFlags`. `answer` may be null.
   virtual int read_input(std::u16string_view prompt, std::u16string_view keywords, unsigned flags,
                          std::u16string* answer = nullptr) = 0;
-  /// Entities: what stands under a press in the view or under a typed point, or the newest one for the word
-  /// `Last`. With the bit `kSelectSingle` the first one answers; else an empty line ends the selection. An
-  /// empty line that leaves nothing selected answers `kAnswerNothing`.
+  /// Entities: what stands under a press in the view or under a typed point, what lies in a rectangle that a
+  /// press on nothing begins, the newest one for the word `Last`, or every one for `All`. With the bit
+  /// `kSelectSingle` the first one answers; else an empty line ends the selection. An empty line that leaves
+  /// nothing selected answers `kAnswerNothing`.
   virtual int select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) = 0;
   /// A line of text; with `whole_line` its blanks belong to it, else it ends at the first.
   virtual int getString(const HostPromptRequest& request, bool whole_line, std::u16string& text) = 0;

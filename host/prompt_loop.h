@@ -1,7 +1,10 @@
 #pragma once
 
+#include <vector>
+
 #include "host/input.h"
 #include "host/prompt.h"
+#include "od/db/OdDbObjectId.h"
 
 class HostCommandLine;
 class HostDocument;
@@ -51,6 +54,9 @@ class HostPromptLoop : public HostEdPrompt {
   OdGePoint3d basePoint(const HostPromptRequest& request) const;
   /// A point as it is typed at this prompt.
   std::optional<OdGePoint3d> typedPoint(std::u16string_view line, const HostPromptRequest& request) const;
+  /// Asks for the opposite corner, and adds what the rectangle takes.
+  void addRectangle(const OdGePoint3d& corner, HostSelectionSet& picked);
+  void addFound(const std::vector<OdDbObjectId>& found, HostSelectionSet& picked);
   bool addEntityAt(const OdGePoint3d& point, unsigned mode_flags, HostSelectionSet& picked);
   bool addNamedEntity(std::u16string_view line, unsigned mode_flags, HostSelectionSet& picked);
 

@@ -1,25 +1,27 @@
+#include <utility>
+
+#include "host/box_selection.h"
 #include "host/document.h"
 #include "host/entity_hit.h"
 #include "host/idle_filter.h"
+#include "host/pickable_entities.h"
 #include "host/picking.h"
 #include "host/prompt_loop.h"
 #include "host/prompt_text.h"
 #include "host/reading.h"
+#include "host/selection_box_tracker.h"
 #include "host/selection_set.h"
 #include "host/translate.h"
 #include "host/typed_value.h"
 #include "host/view.h"
 #include "od/base/unicode.h"
-#include "od/db/OdDbBlockTableRecord.h"
-#include "od/db/OdDbDatabase.h"
 
 // The prompt for entities.
 
 namespace {
 
 OdDbObjectId newest_entity(const OdDbDatabase& database) {
-  const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
-  const std::vector<OdDbObjectId> entities = space ? space->entities() : std::vector<OdDbObjectId>();
+  const std::vector<OdDbObjectId> entities = host::pickable_entities(database);
   return entities.empty() ? OdDbObjectId() : entities.back();
 }
 
@@ -28,18 +30,25 @@ OdDbObjectId newest_entity(const OdDbDatabase& database) {
 int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) {
   picked.clear();
   const HostPromptRequest request{.prompt = std::u16string(prompt)};
+  std::optional<OdGePoint3d> corner;  // of a rectangle, pressed where no entity is
   const HostReading reading{
       .prompt = host::prompt_text(request),
       .keywords = HostKeywordList(u""),
       .default_answer = {},
       .may_be_empty = true,
-      .wanted = u"Nothing was found there: press on an entity, type a point on it, or Last.",
+      .wanted = u"Nothing was found there: press on an entity, type a point on it, Last or All.",
       .take_line = [&](std::u16string_view line) { return addNamedEntity(line, mode_flags, picked); },
-      .take_press = [&](const OdGePoint3d& point) { return addEntityAt(point, mode_flags, picked); }};
+      .take_press =
+          [&](const OdGePoint3d& point) {
+            if (addEntityAt(point, mode_flags, picked)) return true;
+            if (!(mode_flags & kSelectSingle)) corner = point;
+            return corner.has_value();
+          }};
   for (;;) {
     const int answer = ask(request, reading);
     if (answer == kAnswerNothing) return picked.isEmpty() ? kAnswerNothing : kAnswerValue;
     if (answer != kAnswerValue || (mode_flags & kSelectSingle)) return answer;
+    if (corner) addRectangle(*std::exchange(corner, std::nullopt), picked);
   }
 }
 
@@ -51,12 +60,32 @@ bool HostPromptLoop::addEntityAt(const OdGePoint3d& point, unsigned mode_flags, 
   return !id.isNull();
 }
 
+void HostPromptLoop::addRectangle(const OdGePoint3d& corner, HostSelectionSet& picked) {
+  HostSelectionBoxTracker tracker(corner);
+  OdGePoint3d opposite;
+  const int answer = getPoint({.prompt = Supp_Translate(u"Specify opposite corner"),
+                               .base_point = corner,
+                               .tracker = &tracker,
+                               .may_be_empty = true},
+                              opposite);
+  if (answer == kAnswerValue) addFound(host::entities_in(m_document.database(), {corner, opposite}), picked);
+}
+
+void HostPromptLoop::addFound(const std::vector<OdDbObjectId>& found, HostSelectionSet& picked) {
+  for (const OdDbObjectId& id : found) picked.add(id);
+  message(odToUtf16(std::to_string(found.size())) + u" " + Supp_Translate(u"found"));
+}
+
 bool HostPromptLoop::addNamedEntity(std::u16string_view line, unsigned mode_flags, HostSelectionSet& picked) {
   const std::u16string_view typed = host::without_outer_blanks(line);
   if (odEqualNoCase(typed, u"Last") || odEqualNoCase(typed, u"L")) {
     const OdDbObjectId newest = newest_entity(m_document.database());
     if (!newest.isNull()) picked.add(newest);
     return !newest.isNull();
+  }
+  if (odEqualNoCase(typed, u"All") && !(mode_flags & kSelectSingle)) {
+    addFound(host::pickable_entities(m_document.database()), picked);
+    return true;
   }
   const auto point = host::typed_point(typed, m_last_point);
   return point && addEntityAt(*point, mode_flags, picked);

@@ -6,11 +6,13 @@
 
 #include "host/command_factory.h"
 #include "host/command_loop.h"
+#include "host/selection_box_tracker.h"
 #include "host/windowless/application.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbCircle.h"
 #include "od/db/OdDbLine.h"
 #include "od/db/OdDbMText.h"
+#include "od/gi/OdGiRecorder.h"
 
 namespace {
 
@@ -197,4 +199,46 @@ TEST_F(Idle, a_double_click_on_a_multi_line_text_forgets_half_a_command) {
   application.input().message({.number = WM_LBUTTONDBLCLK, .point = {120, 95, 0}});
   HostCommandLoop(application, application.document()).runUntilEnd();
   EXPECT_EQ(runs, 1);
+}
+
+TEST_F(Picking, a_press_on_nothing_begins_a_rectangle_that_selects) {
+  const OdDbObjectId inside = text({0, 0, 0});
+  const OdDbObjectId touched = line({-50, -5, 0}, {50, -5, 0});
+  HostSelectionSet picked;
+  application.input().click({-20, 20, 0});
+  application.input().click({60, -20, 0});
+  application.input().line(u"");
+  EXPECT_EQ(application.document().prompt().select(u"Select", kSelectMany, picked), kAnswerValue);
+  EXPECT_EQ(picked.ids(), std::vector{inside});
+  application.input().click({60, 20, 0});
+  application.input().click({-20, -20, 0});
+  application.input().line(u"");
+  EXPECT_EQ(application.document().prompt().select(u"Select", kSelectMany, picked), kAnswerValue);
+  EXPECT_EQ(picked.ids(), (std::vector{inside, touched}));
+  EXPECT_EQ(application.log().lines().back(), u"Select:");
+}
+
+TEST_F(Picking, the_rectangle_follows_the_cursor) {
+  HostSelectionBoxTracker tracker({-20, 20, 0});
+  tracker.setPoint({60, -20, 0});
+  OdGiRecorder recorder;
+  recorder.record(*tracker.drawables().front());
+  EXPECT_EQ(recorder.describe(), "polyline (-20,20) (60,20) (60,-20) (-20,-20) (-20,20) color 5\n");
+}
+
+TEST_F(Picking, all_selects_what_can_be_picked) {
+  const std::vector ids{text({0, 0, 0}), line({0, 0, 0}, {1, 0, 0})};
+  HostSelectionSet picked;
+  application.input().line(u"all");
+  application.input().line(u"");
+  EXPECT_EQ(application.document().prompt().select(u"Select", kSelectMany, picked), kAnswerValue);
+  EXPECT_EQ(picked.ids(), ids);
+}
+
+TEST_F(Picking, an_empty_line_gives_a_rectangle_up) {
+  HostSelectionSet picked;
+  application.input().click({-20, 20, 0});
+  application.input().line(u"");
+  application.input().line(u"");
+  EXPECT_EQ(application.document().prompt().select(u"Select", kSelectMany, picked), kAnswerNothing);
 }

@@ -1,0 +1,17 @@
+#pragma once
+
+#include <vector>
+
+#include "od/db/OdDbObjectId.h"
+
+class OdDbDatabase;
+
+namespace host {
+
+/// Whether a user can pick an entity: it is seen, and its layer is shown.
+bool is_pickable(const OdDbObjectId& id);
+
+/// All entities of the current space that can be picked, in drawing order.
+std::vector<OdDbObjectId> pickable_entities(const OdDbDatabase& database);
+
+}  // namespace host
