@@ -25,7 +25,9 @@ bool holdsLetters(const std::string& path) {
 }  // namespace
 
 FontLoader::FontLoader(OdFontPlaces places)
-    : m_search(std::move(places.searchPaths)), m_shapes({}), m_strokes(std::move(places.strokeFontPaths)) {}
+    : m_search(std::move(places.searchPaths)),
+      m_shapes(std::move(places.shapeFontPaths)),
+      m_strokes(std::move(places.strokeFontPaths)) {}
 
 FontLoader::~FontLoader() = default;
 

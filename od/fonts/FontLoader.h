@@ -20,6 +20,7 @@ class FontLoader {
 
   void addSearchPath(const std::string& folder);
   void addShapeFontFolder(const std::string& folder) { m_shapes.add(folder); }
+  OdFontPlaces places() const { return {m_search.folders(), m_shapes.folders(), m_strokes.folders()}; }
 
   /// The installed typefaces; listed when first asked for.
   const TypefaceIndex& typefaces();

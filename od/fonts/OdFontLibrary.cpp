@@ -103,6 +103,8 @@ void OdFontLibrary::addShapeFontFolder(const std::string& folder) {
   m_state->loader->addShapeFontFolder(folder);
 }
 
+OdFontPlaces OdFontLibrary::places() const { return m_state->loader->places(); }
+
 std::vector<OdInstalledTypeface> OdFontLibrary::installedTypefaces() const {
   return m_state->loader->typefaces().families();
 }

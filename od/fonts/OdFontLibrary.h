@@ -14,6 +14,9 @@ class OdFont;
 struct OdFontPlaces {
   /// Folders with shape fonts and typeface files, searched in order and before all others.
   std::vector<std::string> searchPaths{};
+  /// Folders in which shape fonts are looked for, behind the search paths, and nothing else is: they may be
+  /// any folders of the user's.
+  std::vector<std::string> shapeFontPaths{};
   /// Folders with the stroke fonts that stand in for missing shape fonts.
   std::vector<std::string> strokeFontPaths{"/usr/share/librecad/fonts", "/usr/share/hershey-fonts"};
 };
@@ -35,9 +38,10 @@ class OdFontLibrary {
   /// Adds a folder at the end of the search paths; fonts found before stay what they are.
   void addSearchPath(const std::string& folder);
 
-  /// Adds a folder in which shape fonts are looked for, behind the search paths, and nothing else is: it may
-  /// be any folder of the user's.
+  /// Adds a folder at the end of those for shape fonts.
   void addShapeFontFolder(const std::string& folder);
+  /// Where it looks now: a library made of this finds the same fonts.
+  OdFontPlaces places() const;
 
   /// Every installed typeface, by name.
   std::vector<OdInstalledTypeface> installedTypefaces() const;

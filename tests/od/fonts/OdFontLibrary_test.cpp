@@ -293,3 +293,14 @@ TEST(OdFontLibrary, knows_what_nothing_has_to_stand_in_for) {
   EXPECT_FALSE(library.hasShapeFont(u"plain,nobig"));
   EXPECT_TRUE(library.hasShapeFont(u"plain.shx,plain.shx"));
 }
+
+TEST(OdFontLibrary, one_made_of_its_places_finds_the_same_fonts_and_keeps_its_own_notes) {
+  const FontFolder folder;
+  folder.write("plain.shx", kPlainShx);
+  OdFontLibrary library;
+  library.addShapeFontFolder(folder.path());
+  OdFontLibrary other(library.places());
+  EXPECT_EQ(other.find({.file = u"plain"})->name(), u"plain.shx");
+  other.find({.typeface = u"No Such Face"});
+  EXPECT_EQ(substituted(library), "");
+}
