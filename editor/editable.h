@@ -16,6 +16,10 @@
 #include "od/db/OdDbEntity.h"
 
 /// Background of the text while it is edited, as the entity asks for it.
+namespace rich {
+struct text;
+}
+
 struct text_background {
   bool on = false;
   OdCmEntityColor color;
@@ -103,8 +107,8 @@ class ExMTextEditable : public OdDbEntity {
   // ---- editable_lines.cpp: lines as texts of their own
 
   std::size_t lineCount() const { return m_text.lines.size(); }
-  /// Plain text of line `index` without its break. Throws the text's own `std::invalid_argument` beyond the
-  /// end.
+  /// Plain text of line `index` without its break, with the markers of its fields. Throws the text's own
+  /// `std::invalid_argument` beyond the end.
   std::u16string lineText(std::size_t index) const;
   /// Where the baseline of line `index` starts, in the world.
   OdGePoint3d linePosition(std::size_t index) const;
@@ -250,8 +254,20 @@ class ExMTextEditable : public OdDbEntity {
   void layOut();
   /// What the edits so far have cost: each of these reads the whole text. A key should cost one of each.
   struct costs {
+  /// The field itself that a mark of this text stands for.
+  OdDbFieldPtr fieldObject(const mtext::marks::field& mark) const;
+  /// Puts a field in place of each selection, with the format there.
+  void insertField(const OdDbFieldPtr& field);
+  /// Puts a field in place of the one at a point, with the format of its begin; nothing happens where none
+  /// is. The carets stay.
+  void replaceField(const OdGePoint2d& at, const OdDbFieldPtr& field);
     unsigned layouts = 0;     ///< the text was laid out
     unsigned numberings = 0;  ///< its lists were marked and counted
+  /// The whole text as a container, evaluated, with a placeholder for each field; null for a text without
+  /// fields. `present`, the container that the entity has now or null, lends the fields that are still there.
+  OdDbFieldPtr fieldText(const OdDbField* present) const;
+  /// The same for line `index` alone, as plain text.
+  OdDbFieldPtr lineField(std::size_t index, const OdDbField* present) const;
   };
   const costs& costsSoFar() const { return m_costs; }
   void notifyWatchers();
@@ -308,7 +324,12 @@ class ExMTextEditable : public OdDbEntity {
   void startList(std::size_t behind_tab);
   /// What a selected text becomes, in the format of its begin; nothing: it stays.
   using rebuilding = std::function<std::optional<mtext::geom_multitext>(const mtext::geom_multitext& text,
+  /// The characters of a field, which enters the table of fields.
+  mtext::geom_multitext fieldParts(const OdDbFieldPtr& field, const mtext::format::string& format);
+  /// Gives the fields of a text that was read their values, and evaluates those that nobody knows here.
+  void bindFields(mtext::multitext& text);
                                                                         const mtext::format::string& format)>;
+  void pasteForeign(const rich::text& foreign, bool single_line, bool non_empty);
   /// Rebuilds what each selection holds and selects the outcome.
   void rebuildSelections(const rebuilding& make);
   void caretPointsIn(const mtext::geom_multitext& text, const mtext::marks::selection& selection,

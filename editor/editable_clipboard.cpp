@@ -2,6 +2,10 @@
 
 #include "editor/editable.h"
 #include "editor/list_labels.h"
+#include "editor/rich_text/read_html.h"
+#include "editor/rich_text/read_rtf.h"
+#include "editor/rich_text/to_multitext.h"
+#include "editor/rich_text/write_html.h"
 #include "editor/selection_scope.h"
 #include "editor/word_bounds.h"
 #include "host/application.h"
@@ -53,6 +57,38 @@ std::u16string on_one_line(std::u16string text) {
   return text;
 }
 
+/// What is selected, for programs that know HTML.
+std::u16string html_text(const mtext::geom_multitext& text, double height) {
+  mtext::multitext selected;
+  for (const auto& range : editing::selections_of(text))
+    for (std::size_t at = range.begin; at < range.end; ++at)
+      selected.parts.push_back(text.parts[at].part().clone());
+  return rich::write_html(selected, height);
+}
+
+/// The formats of other programs that are read, the better one first.
+struct foreign_format {
+  std::u16string_view name;
+  rich::text (*read)(std::u16string_view source);
+};
+
+constexpr foreign_format kForeignFormats[] = {{kHtmlFormat, rich::read_html}, {kRtfFormat, rich::read_rtf}};
+
+/// Whether the clipboard holds a format of another program.
+bool holds_foreign(HostClipboard& board) {
+  return std::any_of(
+      std::begin(kForeignFormats), std::end(kForeignFormats),
+      [&board](const foreign_format& each) { return board.has(board.registerFormat(each.name)); });
+}
+
+/// The text of another program; one without characters where there is none.
+rich::text foreign_text(HostClipboard& board) {
+  for (const foreign_format& each : kForeignFormats)
+    if (const auto source = board.get(board.registerFormat(each.name)))
+      if (rich::text read = each.read(*source); !read.empty()) return read;
+  return {};
+}
+
 }  // namespace
 
 std::u16string ExMTextEditable::selectedText() const {
@@ -69,6 +105,8 @@ bool ExMTextEditable::copy() const {
   if (plain.empty() || !board || !board->empty() || !board->set(CF_UNICODETEXT, plain)) return false;
   if (const unsigned format = private_format(*board))
     board->set(format, coded_text(m_text, m_default_format, textHeight()));
+  if (const unsigned format = board->registerFormat(kHtmlFormat))
+    board->set(format, html_text(m_text, textHeight()));
   return true;
 }
 
@@ -81,7 +119,8 @@ bool ExMTextEditable::cut() {
 void ExMTextEditable::pasteCodes(const std::u16string& codes) {
   replaceSelections([&](const mtext::format::string& format, std::size_t) {
     mtext::multitext logical;
-    mtext::parse(codes, format, logical, m_fields);
+    mtext::parse(codes, format, logical, {});
+    bindFields(logical);
     return mtext::to_geom(logical, textHeight(), *m_finder);
   });
 }
@@ -101,7 +140,7 @@ bool ExMTextEditable::isPrivateFormatAvailable() const {
 
 bool ExMTextEditable::canPaste() const {
   HostClipboard* board = clipboard();
-  return board && (board->has(CF_UNICODETEXT) || isPrivateFormatAvailable());
+  return board && (board->has(CF_UNICODETEXT) || isPrivateFormatAvailable() || holds_foreign(*board));
 }
 
 /// Characters as they are: codes in plain text are letters.
@@ -115,6 +154,18 @@ void ExMTextEditable::pastePlain(std::u16string_view text) {
   insertText(text);
 }
 
+/// A single line holds no formats: it gets the characters.
+void ExMTextEditable::pasteForeign(const rich::text& foreign, bool single_line, bool non_empty) {
+  if (single_line) {
+    const mtext::multitext read = rich::to_multitext(foreign, m_default_format);
+    const std::u16string plain = mtext::serialize_raw(read, /*tilde_spaces=*/false);
+    return pastePlain(non_empty ? on_one_line(plain) : plain);
+  }
+  replaceSelections([&](const mtext::format::string& format, std::size_t) {
+    return mtext::to_geom(rich::to_multitext(foreign, format), textHeight(), *m_finder);
+  });
+}
+
 void ExMTextEditable::paste(bool single_line, bool non_empty) {
   deleteSelection(/*mark_changed=*/false);
   // The lines are laid out anew even if nothing takes the place of what was erased; the lists are not
@@ -126,6 +177,8 @@ void ExMTextEditable::paste(bool single_line, bool non_empty) {
     const unsigned format = private_format(*board);
     if (const auto codes = format ? board->get(format) : std::nullopt) return pasteCodes(*codes);
   }
-  const auto plain = board->get(CF_UNICODETEXT);
-  if (plain) pastePlain(non_empty ? on_one_line(*plain) : *plain);
+  if (const auto plain = board->get(CF_UNICODETEXT))
+    return pastePlain(non_empty ? on_one_line(*plain) : *plain);
+  if (const rich::text foreign = foreign_text(*board); !foreign.empty())
+    pasteForeign(foreign, single_line, non_empty);
 }

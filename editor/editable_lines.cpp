@@ -1,11 +1,16 @@
 #include "editor/editable.h"
+#include "editor/line_ends.h"
 #include "mtext/flatten.h"
 #include "mtext/serialize.h"
 
+std::u16string editing::without_line_ends(std::u16string text) {
+  while (!text.empty() && (text.back() == u'\n' || text.back() == u'\r')) text.pop_back();
+  return text;
+}
+
 std::u16string ExMTextEditable::lineText(std::size_t index) const {
-  std::u16string plain = mtext::serialize_raw(mtext::flatten(m_text.line(index)), /*tilde_spaces=*/false);
-  while (!plain.empty() && (plain.back() == u'\n' || plain.back() == u'\r')) plain.pop_back();
-  return plain;
+  return editing::without_line_ends(
+      mtext::serialize_raw(mtext::flatten(m_text.line(index)), /*tilde_spaces=*/false));
 }
 
 OdGePoint3d ExMTextEditable::linePosition(std::size_t index) const {

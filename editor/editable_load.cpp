@@ -52,9 +52,3 @@ OdString ExMTextEditable::evaluatedContentsText() const {
   });
   return mtext::serialize(mtext::flatten(plain), m_default_format, textHeight());
 }
-
-bool ExMTextEditable::hasFields() const {
-  for (const auto& mark : m_text.marks)
-    if (dynamic_cast<const mtext::marks::field*>(&mark)) return true;
-  return false;
-}

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string_view>
 
+#include "editor/field_commands.h"
 #include "editor/smart_edit.h"
 #include "editor/symbols.h"
 
@@ -18,6 +19,8 @@ bool can_undo(const place& at) { return at.session.undo().undo_count() > 0; }
 bool can_redo(const place& at) { return at.session.undo().redo_count() > 0; }
 bool can_paste(const place& at) { return text(at).canPaste(); }
 bool on_field(const place& at) { return at.at && text(at).fieldAt(*at.at); }
+bool off_fields(const place& at) { return !on_field(at); }
+bool can_make(const place&) { return can_make_fields(); }
 
 bool has_selection(const place& at) {
   const auto all = text(at).selections();
@@ -30,12 +33,21 @@ void copy(const place& at) { text(at).copy(); }
 void paste(const place& at) { text(at).paste(/*single_line=*/false, /*non_empty=*/false); }
 void undo(const place& at) { at.session.undoStep(); }
 void redo(const place& at) { at.session.redoStep(); }
+void make_field(const place& at) { insert_field(at.session); }
+void edit_field(const place& at) { change_field(at.session, *at.at); }
+void evaluate_field(const place& at) { update_field(at.session, *at.at); }
 void convert_field(const place& at) { text(at).convertFieldToText(*at.at); }
 
 constexpr menu_command kCommands[] = {
-    {1001, nullptr, nullptr, select_all, kUndoNone},      {1002, nullptr, has_selection, cut, kUndoMenu},
-    {1003, nullptr, has_selection, copy, kUndoNone},      {1004, nullptr, can_paste, paste, kUndoMenu},
-    {1005, nullptr, can_undo, undo, kUndoNone},           {1006, nullptr, can_redo, redo, kUndoNone},
+    {1001, nullptr, nullptr, select_all, kUndoNone},
+    {1002, nullptr, has_selection, cut, kUndoMenu},
+    {1003, nullptr, has_selection, copy, kUndoNone},
+    {1004, nullptr, can_paste, paste, kUndoMenu},
+    {1005, nullptr, can_undo, undo, kUndoNone},
+    {1006, nullptr, can_redo, redo, kUndoNone},
+    {1049, off_fields, can_make, make_field, kUndoNone},
+    {1052, on_field, can_make, edit_field, kUndoNone},
+    {1054, on_field, nullptr, evaluate_field, kUndoNone},
     {1056, on_field, nullptr, convert_field, kUndoField},
 };
 

@@ -21,7 +21,8 @@ struct menu_command {
   bool (*belongs)(const menu_place&);  ///< whether the menu has the row at all; null: always
   bool (*enabled)(const menu_place&);  ///< whether it can be chosen; null: always
   void (*action)(const menu_place&);
-  int kind;  ///< undo step pushed first; `kUndoNone`: none
+  int kind;  ///< undo step pushed first; `kUndoNone`: none, or the action pushes its own once it is sure of
+             ///< it
 };
 
 /// All commands but the symbols, which stand in a table of their own. A row of a menu whose command stands in

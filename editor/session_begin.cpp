@@ -71,8 +71,8 @@ void smart_edit::hide(OdDbEntity& source) {
 }
 
 void smart_edit::takeOrigin() {
-  m_origin = {m_editable->contentsText(), m_editable->text().info, m_editable->frame(),
-              m_editable->styleId()};
+  m_origin = {m_editable->contentsText(), m_editable->evaluatedContentsText(), m_editable->text().info,
+              m_editable->frame(), m_editable->styleId()};
 }
 
 void smart_edit::startEditing(const session_start& start) {

@@ -3,6 +3,11 @@
 
 namespace {
 
+constexpr const char16_t* kFieldKey = u"TEXT";
+
+/// What the entity holds now; null for one whose text was edited without its field.
+OdDbFieldPtr field_of(const OdDbEntity& target) { return odCast<OdDbField>(target.getField(kFieldKey)); }
+
 bool same_columns(const mtext::column_settings& a, const mtext::column_settings& b) {
   return a.width == b.width && a.gutter == b.gutter && a.kind == b.kind && a.heights == b.heights;
 }
@@ -14,7 +19,11 @@ OdDb::ColumnType column_type(const mtext::column_settings& columns) {
 
 }  // namespace
 
-bool smart_edit::textChanged() const { return m_is_new || m_editable->contentsText() != m_origin.contents; }
+/// A field that shows something else has the same codes.
+bool smart_edit::textChanged() const {
+  return m_is_new || m_editable->contentsText() != m_origin.contents ||
+         m_editable->evaluatedContentsText() != m_origin.shown;
+}
 
 void smart_edit::writeColumns(OdDbMText& target) {
   const auto& columns = m_editable->text().info.columns;
@@ -32,12 +41,28 @@ void smart_edit::writeColumns(OdDbMText& target) {
     target.setColumnHeight(static_cast<int>(i), columns.heights[i]);
 }
 
+void smart_edit::writeContents(OdDbMText& target) {
+  if (const OdDbFieldPtr top = m_editable->fieldText(field_of(target).get())) {
+    target.setField(kFieldKey, *top);
+  } else {
+    target.setContents(m_editable->contentsText());
+    target.removeField(kFieldKey);
+  }
+}
+
+void smart_edit::writeLine(OdDbText& target, std::size_t index) {
+  if (const OdDbFieldPtr top = m_editable->lineField(index, field_of(target).get())) {
+    target.setField(kFieldKey, *top);
+  } else {
+    target.setTextString(m_editable->lineText(index));
+    target.removeField(kFieldKey);
+  }
+}
+
 void smart_edit::write(OdDbMText& target) {
   // The entity keeps its own spelling of a text that came out as it went in.
   const bool text_changed = textChanged();
-  if (text_changed)
-    target.setContents(m_editable->hasFields() ? m_editable->evaluatedContentsText()
-                                               : m_editable->contentsText());
+  if (text_changed) writeContents(target);
   if (m_editable->styleId() != m_origin.style) target.setTextStyle(m_editable->styleId());
   if (!same_columns(m_editable->text().info.columns, m_origin.info.columns)) writeColumns(target);
   // A text without a height was laid out with the least one, and what was typed has to stay as it was seen.
@@ -54,7 +79,12 @@ void smart_edit::write(OdDbMText& target) {
 void smart_edit::write(OdDbText& target) {
   if (!textChanged()) return;
   if (m_editable->normal() != m_origin.frame.normal) target.setNormal(m_editable->normal());
-  target.setTextString(m_editable->lineCount() > 0 ? OdString(m_editable->lineText(0)) : OdString());
+  if (m_editable->lineCount() > 0) {
+    writeLine(target, 0);
+  } else {
+    target.setTextString({});
+    target.removeField(kFieldKey);
+  }
   if (!target.isDefaultAlignment()) target.adjustAlignment();
 }
 

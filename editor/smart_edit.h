@@ -104,6 +104,8 @@ class smart_edit : public MTextEditor {
   void forgetPress();
   /// Ruler and handles; open in a multi-line session alone.
   const gadget_tree& gadgets() const { return m_gadgets; }
+  /// The drawing that is edited.
+  OdDbDatabase& database() const { return m_host.database(); }
   void openGadgets();
   /// What is text in a single-line session; open in such a one alone.
   const line_frame& lineFrame() const { return m_line_frame; }
@@ -134,6 +136,7 @@ class smart_edit : public MTextEditor {
   void showSource();
   void takeOrigin();
   void startEditing(const session_start& start);
+    OdString shown;  ///< with what the fields show
   void tellToolbar(toolbar_undo_change change) const;
   /// Behind undo and redo.
   void showRestored();
@@ -150,6 +153,9 @@ class smart_edit : public MTextEditor {
   /// The text as the view policy looks at it.
   editing::shown_text shownText() const;
   /// Has the view policy look at the text.
+  /// The text with its fields, or as plain contents where it has none.
+  void writeContents(OdDbMText& target);
+  void writeLine(OdDbText& target, std::size_t index);
   void placeInView();
   std::vector<editing::text_box> backgroundBoxes() const;
   void drawText(OdGiWorldDraw& draw);

@@ -6,6 +6,7 @@ import pathlib
 import sys
 
 import drawing_seeds
+import field_seeds
 import font_seeds
 import text_seeds
 
@@ -17,6 +18,8 @@ SEEDS = {
     "dxf_read": drawing_seeds.dxf_read,
     "dxf_draw": drawing_seeds.dxf_read,
     "fonts_read": font_seeds.fonts_read,
+    "field_code": field_seeds.field_code,
+    "rich_read": field_seeds.rich_read,
 }
 
 

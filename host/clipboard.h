@@ -8,6 +8,11 @@
 /// Number of the plain text format.
 inline constexpr unsigned CF_UNICODETEXT = 13;
 
+/// Names for `registerFormat` of two formats that other programs know too. The bytes of RTF are one unit
+/// each.
+inline constexpr std::u16string_view kHtmlFormat = u"HTML Format";
+inline constexpr std::u16string_view kRtfFormat = u"Rich Text Format";
+
 /// The clipboard, as texts by format. The end mark that platforms demand is added and taken off by who talks
 /// to the platform; texts here have none.
 class HostClipboard {

@@ -3,20 +3,61 @@
 #include "mtext/decode.h"
 #include "mtext/entity/entity_format.h"
 #include "mtext/entity/mtext_size_finder.h"
+#include "mtext/escape.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbMText.h"
+#include "od/db/OdDbText.h"
+#include "od/field/field_markers.h"
 
 namespace mtext {
 
-entity_contents contents_of(const OdSmartPtr<OdDbMText>& entity) {
-  const auto field = odCastOrThrow<OdDbField>(entity->getField(u"TEXT", OdDb::kForRead));
-  if (!field) return {entity->contents(), {}};
-  entity_contents result{field->getFieldCode(OdDbField::kAddMarkers), {}};
-  for (int i = 0; i < field->childCount(); ++i) {
-    const auto child = field->getChild(i, /*forWrite=*/true);
-    result.fields[child->getFieldCode(OdDbField::kAddMarkers).str()] = child;
+namespace {
+
+/// The field that an entity shows; null without one.
+OdDbFieldPtr field_of(const OdDbObject& entity) {
+  return odCastOrThrow<OdDbField>(entity.getField(u"TEXT", OdDb::kForRead));
+}
+
+fields_map children_of(const OdDbField& field) {
+  fields_map children;
+  for (int i = 0; i < field.childCount(); ++i) {
+    const auto child = field.getChild(i, /*forWrite=*/true);
+    children[child->getFieldCode(OdDbField::kAddMarkers).str()] = child;
   }
-  return result;
+  return children;
+}
+
+std::u16string escaped(std::u16string_view letters) {
+  return escape_mtext(std::u16string(letters).c_str(), /*keep_line_feeds=*/false);
+}
+
+/// The text of a container as codes, though it is written without any.
+std::u16string codes_of(const OdDbField& line) {
+  const OdString code = line.getFieldCode(OdDbField::kFieldCode);
+  const std::u16string_view letters = code.str();
+  std::u16string codes;
+  std::size_t done = 0;
+  while (const auto found = odFindReference(letters, u"\\_FldIdx", done)) {
+    codes += escaped(letters.substr(done, found->begin - done));
+    if (found->number < static_cast<std::uint64_t>(line.childCount()))
+      codes += line.getChild(static_cast<int>(found->number))->getFieldCode(OdDbField::kAddMarkers).str();
+    done = found->end;
+  }
+  return codes + escaped(letters.substr(done));
+}
+
+}  // namespace
+
+entity_contents contents_of(const OdSmartPtr<OdDbMText>& entity) {
+  const OdDbFieldPtr field = field_of(*entity);
+  if (!field) return {entity->contents(), {}};
+  return {field->getFieldCode(OdDbField::kAddMarkers), children_of(*field)};
+}
+
+entity_contents contents_of(const OdSmartPtr<OdDbText>& entity) {
+  const OdDbFieldPtr field = field_of(*entity);
+  if (!field) return {escaped(entity->textString().str()), {}};
+  return {codes_of(*field), children_of(*field)};
 }
 
 geom_multitext decode(OdSmartPtr<OdDbMText> entity) {

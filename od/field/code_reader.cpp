@@ -18,8 +18,8 @@ OdDbFieldPtr made(Open& open) {
   return field;
 }
 
-/// References such as `\_ObjId 12` are part of the code that they stand in; anything else is a field.
-bool isReference(std::u16string_view code) { return code.starts_with(u"\\_"); }
+/// References to objects are part of the code that they stand in; anything else is a field.
+bool isReference(std::u16string_view code) { return code.starts_with(u"\\_Obj"); }
 
 void close(std::vector<Open>& open) {
   Open inner = std::move(open.back());

@@ -63,3 +63,74 @@ TEST(Clipboard, pasting_nothing_over_a_selection_erases_it_and_lays_the_text_out
   ASSERT_EQ(text.text().lineCount(), 1U);
   EXPECT_EQ(text.text().text().lines[0].last, 2U);
 }
+
+TEST(Clipboard, copy_offers_html_beside_the_plain_and_the_private_format) {
+  auto text = edited_text::on_codes("a{\\Lb}");
+  text.keys("Ctrl+a Ctrl+c");
+  auto& board = text.application().clipboard();
+  EXPECT_EQ(board.get(CF_UNICODETEXT), u"ab");
+  EXPECT_EQ(board.get(board.registerFormat(u"MText")), u"a{\\Lb}");
+  EXPECT_EQ(board.get(board.registerFormat(kHtmlFormat)),
+            u"<p>a<span style=\"text-decoration:underline;\">b</span></p>");
+}
+
+TEST(Clipboard, html_is_pasted_with_its_formats_where_no_text_is_there) {
+  edited_text text("x|");
+  auto& board = text.application().clipboard();
+  board.set(board.registerFormat(kHtmlFormat), u"<p>a<u>b</u></p><p>{c}</p>");
+  EXPECT_TRUE(text.text().canPaste());
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "xab¶{c}|");
+  EXPECT_EQ(text.codes(), "xa{\\Lb}\\P\\{c\\}");
+  text.keys("Ctrl+Z");
+  EXPECT_EQ(text.drawn(), "x|");
+}
+
+TEST(Clipboard, rtf_is_pasted_where_there_is_no_html_either) {
+  edited_text text("|");
+  auto& board = text.application().clipboard();
+  board.set(board.registerFormat(kRtfFormat), u"{\\rtf1 a{\\ul b}}");
+  EXPECT_TRUE(text.text().canPaste());
+  EXPECT_EQ(text.keys("Ctrl+v").codes(), "a{\\Lb}");
+  board.set(board.registerFormat(kHtmlFormat), u"<p>h</p>");
+  EXPECT_EQ(text.keys("Ctrl+v").codes(), "a{\\Lbh}");
+}
+
+TEST(Clipboard, plain_text_is_pasted_rather_than_html) {
+  edited_text text("|");
+  auto& board = text.application().clipboard();
+  board.set(board.registerFormat(kHtmlFormat), u"<b>a</b>");
+  board.set(CF_UNICODETEXT, u"plain");
+  EXPECT_EQ(text.keys("Ctrl+v").codes(), "plain");
+}
+
+TEST(Clipboard, items_of_html_become_items_of_a_list) {
+  edited_text text("1.→x¶|");
+  auto& board = text.application().clipboard();
+  board.set(board.registerFormat(kHtmlFormat), u"<ol><li>a</li><li>b</li></ol>");
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "1.→x¶2.→a¶3.→b|");
+}
+
+TEST(Clipboard, html_in_a_single_line_text_loses_its_formats_and_in_an_existing_one_its_lines) {
+  edited_text text("x|");
+  auto& board = text.application().clipboard();
+  board.set(board.registerFormat(kHtmlFormat), u"<p>a<b>b</b></p><p>c</p>");
+  text.session().beginPlain(/*single_line=*/true, /*had_text=*/true);
+  EXPECT_EQ(text.keys("Ctrl+v").codes(), "xab c");
+}
+
+TEST(Clipboard, garbage_pastes_nothing_and_breaks_nothing) {
+  edited_text text("x|");
+  auto& board = text.application().clipboard();
+  std::u16string garbage;
+  for (unsigned unit = 1; unit < 5000; ++unit) garbage += static_cast<char16_t>(unit * 7919);
+  board.set(board.registerFormat(kRtfFormat), garbage);
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "x|");
+  board.set(board.registerFormat(kHtmlFormat), u"<p><b></i>");
+  EXPECT_EQ(text.keys("Ctrl+v").drawn(), "x|");
+}
+
+TEST(Clipboard, copied_fields_are_their_values) {
+  auto text = edited_text::on_codes("a%<\\AcVar Date>%b");
+  text.keys("Ctrl+a Ctrl+c");
+  EXPECT_EQ(text.application().clipboard().get(CF_UNICODETEXT), u"a----b");
+}

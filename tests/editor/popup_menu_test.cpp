@@ -6,6 +6,7 @@
 #include "editor/menu_commands.h"
 #include "editor/symbols.h"
 #include "host/clipboard.h"
+#include "host/field_service.h"
 #include "host/regula_desk.h"
 #include "host/sibling.h"
 #include "od/base/unicode.h"
@@ -59,6 +60,7 @@ class fake_desk : public CKrUnknownImpl<IRegulaDesk> {
     place = {x, y, position};
     return answer;
   }
+  void search(HostWindow*, const char16_t*, int, int) override {}
 
   int answer = 0;
   bool has_owner = false;
@@ -77,7 +79,7 @@ TEST(PopupMenu, the_right_button_opens_it_when_it_is_let_go) {
   EXPECT_EQ(text.application().window().lastMenuPlace().x, 7);
   EXPECT_EQ(text.application().window().lastMenuPlace().y, 9);
   EXPECT_THAT(rows(text), ElementsAre("(Undo)", "(Redo)", "", "(Cut)", "(Copy)", "(Paste)", "", "Select all",
-                                      "", "Symbol", "Degree", "Plus/minus", "Diameter"));
+                                      "", "Symbol", "Degree", "Plus/minus", "Diameter", "", "(Insert field)"));
 }
 
 TEST(PopupMenu, the_cursor_over_it_is_an_arrow) {
@@ -101,7 +103,7 @@ TEST(PopupMenu, every_row_of_both_menus_that_is_shown_has_a_command_behind_it) {
     drawing.begin({.compact = compact});
     drawing.send({.number = WM_RBUTTONUP, .point = drawing.text->location()});
     const auto shown = host::all_rows(drawing.application.window().lastMenu());
-    EXPECT_EQ(shown.size(), 13u);
+    EXPECT_EQ(shown.size(), 15u);
     for (const HostMenuItem* row : shown) {
       const bool served = editing::is_offered(row->command, {drawing.session.value(), {}});
       EXPECT_TRUE(row->command == 0 || served) << row->command;
@@ -275,10 +277,48 @@ TEST(PopupMenu, a_field_that_became_text_is_a_field_again_after_undo) {
   EXPECT_EQ(text.codes(), "a%<\\AcVar Date>%b");
 }
 
+TEST(PopupMenu, offers_to_insert_a_field_where_none_is_and_to_edit_one_where_it_is) {
+  HostGivenFields fields;
+  const host::OfferingFields offer(fields);
+  edited_text text = with_field();
+  right_click(text, {0.1, -1, 0});
+  EXPECT_THAT(rows(text), testing::Contains("Insert field"));
+  for (const char* row : {"Edit field", "Update field", "Convert field to text"})
+    EXPECT_THAT(rows(text), testing::Not(testing::Contains(row)));
+  right_click(text, {2 * kLetter, -1, 0});
+  EXPECT_THAT(rows(text), testing::Not(testing::Contains("Insert field")));
+  for (const char* row : {"Edit field", "Update field", "Convert field to text"})
+    EXPECT_THAT(rows(text), testing::Contains(row));
+}
+
+TEST(PopupMenu, inserts_edits_and_updates_fields_each_as_a_step) {
+  HostGivenFields fields;
+  const host::OfferingFields offer(fields);
+  edited_text text("|");
+  fields.give(u"\\AcVar LUNITS");
+  choose(text, 1049);
+  EXPECT_EQ(text.codes(), "%<\\AcVar LUNITS>%");
+  EXPECT_EQ(text.drawn(), "2|");
+  fields.give(u"\\AcVar TEXTSTYLE");
+  choose(text, 1052, {0.1, -1, 0});
+  EXPECT_EQ(text.drawn(), "Standard|");
+  choose(text, 1054, {0.1, -1, 0});
+  EXPECT_EQ(text.drawn(), "Standard|");
+  text.keys("Ctrl+Z");
+  EXPECT_EQ(text.drawn(), "|");
+}
+
+TEST(PopupMenu, a_field_cannot_be_made_where_nobody_makes_fields) {
+  edited_text text = with_field();
+  right_click(text, {0.1, -1, 0});
+  EXPECT_THAT(rows(text), testing::Contains("(Insert field)"));
+  right_click(text, {2 * kLetter, -1, 0});
+  EXPECT_THAT(rows(text), testing::Contains("(Edit field)"));
+}
+
 TEST(PopupMenu, an_entry_that_nothing_stands_behind_is_not_shown_and_does_nothing) {
   edited_text text = with_field();
   right_click(text, {2 * kLetter, -1, 0});
-  EXPECT_EQ(rows(text).back(), "Convert field to text");
   EXPECT_FALSE(editing::run_menu_command(1025, {text.session(), {}}));
   EXPECT_FALSE(editing::run_menu_command(0, {text.session(), {}}));
   EXPECT_EQ(text.session().undo().undo_count(), 0u);
@@ -292,7 +332,7 @@ TEST(PopupMenu, the_reference_product_shows_the_menu_where_it_is_there) {
   right_click(text);
   EXPECT_TRUE(desk.has_owner);
   EXPECT_EQ(desk.selected, "abd");
-  EXPECT_EQ(desk.row_count, 13u);
+  EXPECT_EQ(desk.row_count, 15u);
   EXPECT_THAT(desk.place, ElementsAre(7, 9, -1));
   EXPECT_TRUE(text.application().window().lastMenu().empty());
   EXPECT_EQ(text.drawn(), "≈|c≈|");
@@ -312,7 +352,7 @@ TEST(PopupMenu, with_no_reference_product_there_is_no_entry_in_the_popup) {
   edited_text text("[ab]");
   right_click(text);
   for (const std::string& row : rows(text)) EXPECT_EQ(row.find("Search"), row.npos);
-  EXPECT_EQ(rows(text).size(), 13u);
+  EXPECT_EQ(rows(text).size(), 15u);
 }
 
 TEST(PopupMenu, the_reference_product_cannot_choose_what_is_disabled) {
