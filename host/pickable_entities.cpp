@@ -8,24 +8,40 @@
 namespace host {
 namespace {
 
-bool is_on_shown_layer(const OdDbEntity& entity) {
+OdDbLayerTableRecordPtr layer_of(const OdDbEntity& entity) {
   const OdDbObjectId id = entity.layerId();
-  const auto layer = id ? odCast<OdDbLayerTableRecord>(id.openObject()) : OdDbLayerTableRecordPtr();
-  return !layer || !(layer->isOff() || layer->isFrozen());
+  return id ? odCast<OdDbLayerTableRecord>(id.openObject()) : OdDbLayerTableRecordPtr();
+}
+
+bool is_thawed(const OdDbObjectId& id) {
+  const auto entity = odCast<OdDbEntity>(id.openObject());
+  if (!entity || entity->visibility() != OdDb::kVisible) return false;
+  const auto layer = layer_of(*entity);
+  return !layer || !layer->isFrozen();
+}
+
+template <class Condition>
+std::vector<OdDbObjectId> entities_that(const OdDbDatabase& database, Condition fits) {
+  const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
+  std::vector<OdDbObjectId> entities = space ? space->entities() : std::vector<OdDbObjectId>();
+  std::erase_if(entities, [fits](const OdDbObjectId& id) { return !fits(id); });
+  return entities;
 }
 
 }  // namespace
 
 bool is_pickable(const OdDbObjectId& id) {
-  const auto entity = odCast<OdDbEntity>(id.openObject());
-  return entity && entity->visibility() == OdDb::kVisible && is_on_shown_layer(*entity);
+  if (!is_thawed(id)) return false;
+  const auto layer = layer_of(*odCast<OdDbEntity>(id.openObject()));
+  return !layer || !layer->isOff();
 }
 
 std::vector<OdDbObjectId> pickable_entities(const OdDbDatabase& database) {
-  const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
-  std::vector<OdDbObjectId> entities = space ? space->entities() : std::vector<OdDbObjectId>();
-  std::erase_if(entities, [](const OdDbObjectId& id) { return !is_pickable(id); });
-  return entities;
+  return entities_that(database, is_pickable);
+}
+
+std::vector<OdDbObjectId> thawed_entities(const OdDbDatabase& database) {
+  return entities_that(database, is_thawed);
 }
 
 }  // namespace host

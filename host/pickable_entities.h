@@ -14,4 +14,8 @@ bool is_pickable(const OdDbObjectId& id);
 /// All entities of the current space that can be picked, in drawing order.
 std::vector<OdDbObjectId> pickable_entities(const OdDbDatabase& database);
 
+/// All entities of the current space that the word "All" means: those on layers that are switched off are
+/// among them, those on frozen layers are not.
+std::vector<OdDbObjectId> thawed_entities(const OdDbDatabase& database);
+
 }  // namespace host

@@ -84,7 +84,7 @@ bool HostPromptLoop::addNamedEntity(std::u16string_view line, unsigned mode_flag
     return !newest.isNull();
   }
   if (odEqualNoCase(typed, u"All") && !(mode_flags & kSelectSingle)) {
-    addFound(host::pickable_entities(m_document.database()), picked);
+    addFound(host::thawed_entities(m_document.database()), picked);
     return true;
   }
   const auto point = host::typed_point(typed, m_last_point);

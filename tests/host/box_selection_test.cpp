@@ -35,6 +35,12 @@ struct BoxSelection : testing::Test {
     return space->appendOdDbEntity(&entity);
   }
 
+  /// The layer that both lie on.
+  OdDbLayerTableRecordPtr layer() {
+    const auto entity = odCast<OdDbEntity>(line.openObject());
+    return odCast<OdDbLayerTableRecord>(entity->layerId().openObject(OdDb::kForWrite));
+  }
+
   std::vector<OdDbObjectId> in(const OdGePoint3d& first, const OdGePoint3d& opposite) {
     return host::entities_in(*database, {first, opposite});
   }
@@ -59,9 +65,15 @@ TEST_F(BoxSelection, a_box_beside_the_lines_takes_nothing) {
   EXPECT_THAT(in({205, 5, 0}, {195, -5, 0}), IsEmpty());
 }
 
-TEST_F(BoxSelection, what_is_on_a_hidden_layer_is_not_taken) {
-  const auto entity = odCast<OdDbEntity>(line.openObject());
-  odCast<OdDbLayerTableRecord>(entity->layerId().openObject(OdDb::kForWrite))->setIsFrozen(true);
+TEST_F(BoxSelection, what_is_on_a_frozen_layer_is_not_taken) {
+  layer()->setIsFrozen(true);
   EXPECT_THAT(host::pickable_entities(*database), IsEmpty());
+  EXPECT_THAT(host::thawed_entities(*database), IsEmpty());
   EXPECT_THAT(in({300, 200, 0}, {-300, -200, 0}), IsEmpty());
+}
+
+TEST_F(BoxSelection, what_is_on_a_layer_that_is_off_is_taken_by_the_word_all_alone) {
+  layer()->setIsOff(true);
+  EXPECT_THAT(in({300, 200, 0}, {-300, -200, 0}), IsEmpty());
+  EXPECT_THAT(host::thawed_entities(*database), ElementsAre(line, circle));
 }
