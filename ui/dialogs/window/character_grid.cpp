@@ -7,7 +7,7 @@
 
 #include "od/fonts/OdFont.h"
 #include "ui/dialogs/window/character_model.h"
-#include "ui/dialogs/window/glyph_path.h"
+#include "ui/dialogs/window/paint_character.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <QPainter>
 
 #include "od/fonts/OdFont.h"
-#include "ui/dialogs/window/glyph_path.h"
+#include "ui/dialogs/window/paint_character.h"
 
 namespace {
 

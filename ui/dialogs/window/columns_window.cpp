@@ -46,6 +46,7 @@ void ColumnsWindow::build() {
   const Labels labels = dialogs::labels_of({kDynamic, kAutoHeight, kManualHeight, kStatic, kNone, kCount,
                                             kHeight, kColumn, kGutter, kTotal, dialogs::kHelpLabel});
   auto* const upper = new QHBoxLayout;
+  upper->setSpacing(kIndent);
   upper->addLayout(typeColumn(labels));
   upper->addLayout(fieldColumn(labels));
   auto* const layout = new QVBoxLayout(this);
@@ -94,7 +95,6 @@ QRadioButton* ColumnsWindow::radio(QButtonGroup& group, int control, const QStri
   auto* const made = new QRadioButton(label, this);
   group.addButton(made);
   dialogs::name_control(*made, control, label);
-  dialogs::keep_focus_on_click(*made);
   connect(made, &QRadioButton::clicked, [this, control] { choose(control); });
   return m_radios[control] = made;
 }
@@ -102,7 +102,11 @@ QRadioButton* ColumnsWindow::radio(QButtonGroup& group, int control, const QStri
 FieldEdit* ColumnsWindow::edit(field which, const QString& label) {
   auto* const made = new FieldEdit(this);
   dialogs::name_control(*made, static_cast<int>(which), label);
-  made->left = [this, which] { leave(which); };
+  made->left = [this, which, made] {
+    if (leave(which)) return;
+    made->setFocus();
+    made->selectAll();
+  };
   return m_edits[which] = made;
 }
 
@@ -119,13 +123,10 @@ void ColumnsWindow::choose(int control) {
 }
 
 bool ColumnsWindow::leave(field which) {
-  FieldEdit& edit = *m_edits.at(which);
-  const bool accepted = m_dialog.leave(which, edit.text().toStdU16String());
-  showAll();
-  if (accepted) return true;
-  edit.isEnabled() ? edit.setFocus() : setFocus();
-  edit.selectAll();
-  return false;
+  const column_values before = m_dialog.values();
+  const bool accepted = m_dialog.leave(which, m_edits.at(which)->text().toStdU16String());
+  m_dialog.values() == before ? showField(which) : showAll();
+  return accepted;
 }
 
 bool ColumnsWindow::leaveCurrent() {
@@ -144,11 +145,17 @@ void ColumnsWindow::showAll() {
   m_radios.at(m_dialog.values().auto_height ? kAutoHeightControl : kManualHeightControl)->setChecked(true);
   for (const int control : {kAutoHeightControl, kManualHeightControl})
     m_radios.at(control)->setEnabled(m_dialog.isHeightModeEnabled());
-  for (const auto& [which, edit] : m_edits) {
-    edit->setEnabled(m_dialog.isEnabled(which));
-    const QString text = QString::fromStdU16String(m_dialog.shown(which));
-    if (edit->text() != text) edit->setText(text);
-  }
+  // Tab goes to what is chosen of several, the arrows from there to the others.
+  for (const auto& [control, radio] : m_radios)
+    radio->setFocusPolicy(radio->isChecked() ? Qt::TabFocus : Qt::NoFocus);
+  for (const field each : CMTextColumnsDlg::kFields) showField(each);
+}
+
+void ColumnsWindow::showField(field which) {
+  FieldEdit& edit = *m_edits.at(which);
+  edit.setEnabled(m_dialog.isEnabled(which));
+  const QString text = QString::fromStdU16String(m_dialog.shown(which));
+  if (edit.text() != text) edit.setText(text);
 }
 
 bool ColumnsWindow::eventFilter(QObject* target, QEvent* event) {

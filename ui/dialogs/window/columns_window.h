@@ -33,12 +33,13 @@ class ColumnsWindow : public QDialog {
   QRadioButton* radio(QButtonGroup& group, int control, const QString& label);
   FieldEdit* edit(field which, const QString& label);
   void choose(int control);
-  /// Gives the text of an edit to the dialog; when it is refused, the dialog has the focus again.
+  /// Gives the text of an edit to the dialog; false when it is refused.
   bool leave(field which);
   /// The same for the edit that is typed into, if one is.
   bool leaveCurrent();
   bool leaveAll();
   void showAll();
+  void showField(field which);
 
   CMTextColumnsDlg& m_dialog;
   std::map<int, QRadioButton*> m_radios;  ///< by the numbers of their controls

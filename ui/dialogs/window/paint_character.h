@@ -8,8 +8,8 @@ class QPainter;
 
 namespace dialogs {
 
-/// Paints a character of a font into the middle of a box, its capitals `share` of the box high. Nothing for a
-/// character that has no shape anywhere.
+/// Paints a character of a font into a box, at the size and height at which a capital is `share` of the box
+/// high and stands in its middle. Nothing for a character that has no shape anywhere.
 void paint_character(QPainter& painter, const OdFont& font, char32_t character, const QRectF& box,
                      const QColor& color, double share);
 

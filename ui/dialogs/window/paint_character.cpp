@@ -1,7 +1,8 @@
-#include "ui/dialogs/window/glyph_path.h"
+#include "ui/dialogs/window/paint_character.h"
 
 #include <QPainter>
 #include <QPainterPath>
+#include <algorithm>
 
 #include "od/fonts/OdFont.h"
 
@@ -20,15 +21,21 @@ QPainterPath path_of(const OdFontGlyph& glyph) {
   return path;
 }
 
-/// From font units into the box: the middle of the ink above that of the box, capitals `share` of it high;
-/// smaller where the ink would not find room.
-QTransform into_box(const QRectF& ink, const QRectF& box, double scale) {
-  const double fitting =
-      std::min(box.width() / std::max(ink.width(), 1e-9), box.height() / std::max(ink.height(), 1e-9));
-  const double used = std::min(scale, fitting * 0.9);
+/// From font units into the box, `scale` pixels to the unit: the ink in its middle from left to right,
+/// capitals in its middle from top to bottom, so that high and low signs are told apart. Ink that finds no
+/// room like that is made smaller and stands in the middle.
+QTransform into_box(const QRectF& ink, const QRectF& box, double scale, double capital) {
+  const QTransform seated = QTransform()
+                                .translate(box.center().x(), box.center().y())
+                                .scale(scale, -scale)
+                                .translate(-ink.center().x(), -capital / 2);
+  if (box.contains(seated.mapRect(ink))) return seated;
+  constexpr double margin = 0.9;
+  const double fitting = margin * std::min(box.width() / std::max(ink.width(), 1e-9),
+                                           box.height() / std::max(ink.height(), 1e-9));
   return QTransform()
       .translate(box.center().x(), box.center().y())
-      .scale(used, -used)
+      .scale(std::min(scale, fitting), -std::min(scale, fitting))
       .translate(-ink.center().x(), -ink.center().y());
 }
 
@@ -39,8 +46,8 @@ void paint_character(QPainter& painter, const OdFont& font, char32_t character, 
   const OdFontGlyph* const glyph = font.glyph(character);
   if (!glyph) return;
   const QPainterPath path = path_of(*glyph);
-  const QTransform transform =
-      into_box(path.boundingRect(), box, box.height() * share / font.nominalHeight());
+  const double capital = font.nominalHeight();
+  const QTransform transform = into_box(path.boundingRect(), box, box.height() * share / capital, capital);
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
   if (glyph->filled) {
