@@ -107,7 +107,7 @@ void smart_edit::showSource() {
   OdDbEntityPtr source = m_source_text ? OdDbEntityPtr(m_source_text) : OdDbEntityPtr(m_source_line);
   if (!source) return;
   source->setVisibility(OdDb::kVisible, true);
-  if (source->isDBRO()) hostEntUpd(source->objectId());
+  updateDisplay(*source);
   m_source_text.release();
   m_source_line.release();
 }

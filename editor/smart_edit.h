@@ -42,15 +42,24 @@ class smart_edit : public MTextEditor {
   smart_edit(const smart_edit&) = delete;
   smart_edit& operator=(const smart_edit&) = delete;
 
+  /// For a session that goes on where `earlier` ended: whether a text can be read as it lies is judged by the
+  /// view in which the first of them began. Before the session begins.
+  void continueView(const view_policy& earlier) { m_view_policy.begin(earlier); }
+  const view_policy& viewPolicy() const { return m_view_policy; }
+
   // ---- session_begin.cpp
 
   /// Hides `source` and opens its text. The entity has to be open for write. Throws
   /// `OdError_NotThatKindOfClass` when its style or field is of another class. Always true.
   bool beginMTextEdit(OdDbMTextPtr source, const session_start& start = {});
-  /// The same for a single-line text, which is selected whole.
-  bool beginTextEdit(OdDbTextPtr source, const session_start& start = {});
   /// Opens what was put into the editable by hand, without an entity.
   void beginPlain(bool single_line, bool had_text);
+
+  // ---- session_begin_line.cpp
+
+  /// The same for a single-line text, which is selected whole. A text without letters is an example: what is
+  /// typed becomes new texts, a line each.
+  bool beginTextEdit(OdDbTextPtr source, const session_start& start = {});
 
   // ---- session_finish.cpp
 
@@ -95,6 +104,8 @@ class smart_edit : public MTextEditor {
   /// Where a point in text coordinates is seen, in the world.
   OdGePoint3d worldPoint(const OdGePoint2d& at) const;
 
+  /// The drawing that is edited.
+  OdDbDatabase& database() const { return m_host.database(); }
   ExMTextEditable& editable() { return *m_editable; }
   const ExMTextEditable& editable() const { return *m_editable; }
   const undo_stack& undo() const { return m_undo; }
@@ -104,8 +115,6 @@ class smart_edit : public MTextEditor {
   void forgetPress();
   /// Ruler and handles; open in a multi-line session alone.
   const gadget_tree& gadgets() const { return m_gadgets; }
-  /// The drawing that is edited.
-  OdDbDatabase& database() const { return m_host.database(); }
   void openGadgets();
   /// What is text in a single-line session; open in such a one alone.
   const line_frame& lineFrame() const { return m_line_frame; }
@@ -127,21 +136,26 @@ class smart_edit : public MTextEditor {
   /// The text as it was opened, to tell afterwards what changed.
   struct origin {
     OdString contents;
+    OdString shown;  ///< with what the fields show
     mtext::convert_info info;
     text_frame frame;
     OdDbObjectId style;
   };
 
   void hide(OdDbEntity& source);
+  /// Has the host show the entity as it now is.
+  static void updateDisplay(const OdDbEntity& source);
   void showSource();
   void takeOrigin();
   void startEditing(const session_start& start);
-    OdString shown;  ///< with what the fields show
   void tellToolbar(toolbar_undo_change change) const;
   /// Behind undo and redo.
   void showRestored();
   bool textChanged() const;
   void write(OdDbMText& target);
+  /// The text with its fields, or as plain contents where it has none.
+  void writeContents(OdDbMText& target);
+  void writeLine(OdDbText& target, std::size_t index);
   void writeColumns(OdDbMText& target);
   void write(OdDbText& target);
   // ---- session_lines.cpp
@@ -153,9 +167,6 @@ class smart_edit : public MTextEditor {
   /// The text as the view policy looks at it.
   editing::shown_text shownText() const;
   /// Has the view policy look at the text.
-  /// The text with its fields, or as plain contents where it has none.
-  void writeContents(OdDbMText& target);
-  void writeLine(OdDbText& target, std::size_t index);
   void placeInView();
   std::vector<editing::text_box> backgroundBoxes() const;
   void drawText(OdGiWorldDraw& draw);

@@ -9,8 +9,7 @@ OdGePoint3d baseline_end(const OdDbText& text) {
   OdArray<OdGePoint3d> corners;
   text.getBoundingPoints(corners);
   if (corners.size() < kCorners) throw OdError_InvalidIndex();
-  OdGeVector3d up = corners[0] - corners[2];
-  up = up.normal();
+  const OdGeVector3d up = (corners[0] - corners[2]).normal();
   return corners[3] - up * (corners[2] - text.position()).dotProduct(up);
 }
 
@@ -27,17 +26,19 @@ OdGePoint3d TextPositionOrAlignmentPoint(const OdDbTextPtr& text) {
 }
 
 void ApplyTextJustify(const OdDbTextPtr& text, OdDb::TextHorzMode horizontal, OdDb::TextVertMode vertical) {
+  // What another program with other fonts has left in the file gives way to what is seen.
+  text->adjustAlignment();
   const OdGePoint3d position = text->position();
-  OdGePoint3d anchor = TextPositionOrAlignmentPoint(text);
-  const bool had_two_points = alignOrFit(text->horizontalMode());
+  // The end of the baseline is taken before the modes change: two points that are not set yet stretch
+  // nothing.
+  const bool becomes_stretched = !alignOrFit(text->horizontalMode()) && alignOrFit(horizontal);
+  const OdGePoint3d anchor = becomes_stretched ? baseline_end(*text) : TextPositionOrAlignmentPoint(text);
   text->setHorizontalMode(horizontal);
   text->setVerticalMode(vertical);
-  if (!had_two_points && alignOrFit(horizontal)) anchor = baseline_end(*text);
   text->setAlignmentPoint(anchor);
   text->adjustAlignment();
   const OdGePoint3d moved = text->position();
-  if (isDefaultTextAlignment(text))
-    text->setPosition(position);
-  else
-    text->setAlignmentPoint(anchor + (position - moved));
+  if (isDefaultTextAlignment(text)) return text->setPosition(position);
+  text->setAlignmentPoint(anchor + (position - moved));
+  text->adjustAlignment();
 }

@@ -16,6 +16,8 @@ class view_policy {
 
   /// A session begins in `view`: the up vector and the line of sight of this moment are kept.
   void begin(const OdGsView& view);
+  /// The same with what another session kept.
+  void begin(const view_policy& earlier) { m_axes_at_start = earlier.m_axes_at_start; }
   /// The text or its caret has changed. With `turn_text` a text that cannot be edited as it lies is drawn
   /// facing the screen; without it the view is moved.
   outcome text_changed(OdGsView& view, const editing::shown_text& text, bool turn_text);
