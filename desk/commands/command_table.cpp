@@ -5,6 +5,7 @@
 #include "desk/commands/fonts_command.h"
 #include "desk/commands/help_command.h"
 #include "desk/commands/open_command.h"
+#include "desk/commands/paste_command.h"
 #include "desk/commands/quit_command.h"
 #include "desk/commands/save_as_command.h"
 #include "desk/commands/save_command.h"
@@ -18,10 +19,11 @@ OdSmartPtr<ICmdProcess> make(Desk& desk) {
   return OdSmartPtr<ICmdProcess>(new Command(desk), kOdRxObjAttach);
 }
 
-constexpr std::array<DeskCommandRow, 7> kCommands{{
+constexpr std::array<DeskCommandRow, 8> kCommands{{
     {u"Fonts", u"Lists the fonts that are missing here, and what stands in for them.", make<FontsCommand>},
     {u"Help", u"Lists the commands.", make<HelpCommand>},
     {u"Open", u"Opens another drawing.", make<OpenCommand>},
+    {u"Paste", u"Puts the text on the clipboard into the drawing.", make<PasteCommand>},
     {u"Quit", u"Leaves the program.", make<QuitCommand>},
     {u"Save", u"Saves the drawing under its name.", make<SaveCommand>},
     {u"SaveAs", u"Saves the drawing under another name.", make<SaveAsCommand>},

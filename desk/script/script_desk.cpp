@@ -18,7 +18,7 @@ std::optional<std::filesystem::path> askFile(HostEdPrompt& prompt, const HostPro
 ScriptDesk::ScriptDesk(OdDbDatabasePtr drawing, Script script, ScriptCommandLine::Write write)
     : m_line(std::move(write)),
       m_view(std::make_unique<WindowlessView>()),
-      m_source(std::move(script), {m_line, m_keys, m_clock, m_events, *m_view, m_window}),
+      m_source(std::move(script), {m_line, m_keys, m_clock, m_events, *m_view, m_window, m_fields}),
       m_application({.events = m_events,
                      .help = m_help,
                      .profile = m_profile,
@@ -30,6 +30,7 @@ ScriptDesk::ScriptDesk(OdDbDatabasePtr drawing, Script script, ScriptCommandLine
                      .update_now = [this] { update(); }}) {
   m_events.setSource(m_source);
   m_window.setSource(m_source);
+  m_fields.setSource(m_source);
   m_view->gsView().setDeviceRect(kPixels);
   // Nobody looks on: the points of a script are points of the drawing, also within a text.
   m_profile.setNumber(u"Text", u"Rotate", 0);

@@ -6,6 +6,7 @@
 #include "desk/document/desk_application.h"
 #include "desk/script/script_command_line.h"
 #include "desk/script/script_events.h"
+#include "desk/script/script_fields.h"
 #include "desk/script/script_source.h"
 #include "desk/script/script_window.h"
 #include "host/clipboard.h"
@@ -49,6 +50,8 @@ class ScriptDesk : public Desk {
   HostHeldKeys m_keys;
   WindowlessClock m_clock;
   ScriptWindow m_window;
+  ScriptFields m_fields;
+  host::OfferingFields m_offered_fields{m_fields};
   std::unique_ptr<WindowlessView> m_view;
   std::unique_ptr<DeskDocument> m_document;
   ScriptSource m_source;

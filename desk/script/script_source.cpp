@@ -5,6 +5,7 @@
 #include "desk/script/script_command_line.h"
 #include "desk/script/script_events.h"
 #include "desk/script/step_messages.h"
+#include "host/field_service.h"
 #include "host/key_state.h"
 #include "host/view.h"
 #include "host/windowless/clock.h"
@@ -37,6 +38,7 @@ void ScriptSource::perform(const ScriptStep& step) {
   if (const auto* answer = std::get_if<AnswerStep>(&step.what))
     m_around.events.answer(boxAnswer(answer->answer));
   if (const auto* menu = std::get_if<MenuStep>(&step.what)) m_around.window.choose(menu->entry);
+  if (const auto* field = std::get_if<FieldStep>(&step.what)) m_around.fields.give(field->code);
 }
 
 /// Where a command name is awaited a blank ends it, as it does on the keyboard: the rest answers its prompts.
@@ -55,18 +57,24 @@ void ScriptSource::send(std::vector<HostWindowMessage> messages) {
   }
 }
 
+template <typename Step>
+const Step* ScriptSource::take() {
+  const Step* step = m_at < m_script.size() ? std::get_if<Step>(&m_script[m_at].what) : nullptr;
+  if (step) ++m_at;
+  return step;
+}
+
 std::optional<ScriptAnswer> ScriptSource::takeAnswer() {
-  if (m_at == m_script.size()) return std::nullopt;
-  const auto* answer = std::get_if<AnswerStep>(&m_script[m_at].what);
-  if (!answer) return std::nullopt;
-  ++m_at;
-  return answer->answer;
+  const auto* answer = take<AnswerStep>();
+  return answer ? std::optional(answer->answer) : std::nullopt;
 }
 
 std::optional<std::u16string> ScriptSource::takeChoice() {
-  if (m_at == m_script.size()) return std::nullopt;
-  const auto* menu = std::get_if<MenuStep>(&m_script[m_at].what);
-  if (!menu) return std::nullopt;
-  ++m_at;
-  return menu->entry;
+  const auto* menu = take<MenuStep>();
+  return menu ? std::optional(menu->entry) : std::nullopt;
+}
+
+std::optional<std::u16string> ScriptSource::takeField() {
+  const auto* field = take<FieldStep>();
+  return field ? std::optional(field->code) : std::nullopt;
 }

@@ -8,6 +8,7 @@
 #include "host/input.h"
 
 class HostAnsweredEvents;
+class HostGivenFields;
 class HostHeldKeys;
 class HostView;
 class ScriptCommandLine;
@@ -22,6 +23,7 @@ struct ScriptSurroundings {
   HostAnsweredEvents& events;
   HostView& view;
   WindowlessWindow& window;
+  HostGivenFields& fields;
 };
 
 /// Input from a script: a prompt that waits gets what the next step gives.
@@ -36,10 +38,15 @@ class ScriptSource : public HostInputSource {
   std::optional<ScriptAnswer> takeAnswer();
   /// The choice that stands in the next step, if it is one; the step is then done.
   std::optional<std::u16string> takeChoice();
+  /// The code of a field that stands in the next step, if it is one; the step is then done.
+  std::optional<std::u16string> takeField();
   /// What was asked when the script had come to its end; empty before.
   const std::u16string& promptAtEnd() const { return m_prompt_at_end; }
 
  private:
+  /// The next step, done, if it is a `Step`; else null.
+  template <typename Step>
+  const Step* take();
   HostInput endOfScript();
   void perform(const ScriptStep& step);
   void type(const std::u16string& line);

@@ -50,10 +50,15 @@ struct MenuStep {
   std::u16string entry;
 };
 
+/// `@field`: the code of the next field that is made or changed; empty cancels.
+struct FieldStep {
+  std::u16string code;
+};
+
 /// One step of a script with the number of its line, counted from 1.
 struct ScriptStep {
   int line = 0;
-  std::variant<TypeLine, MouseStep, TypeCharacters, PressKey, WaitStep, AnswerStep, MenuStep> what;
+  std::variant<TypeLine, MouseStep, TypeCharacters, PressKey, WaitStep, AnswerStep, MenuStep, FieldStep> what;
 };
 
 using Script = std::vector<ScriptStep>;

@@ -71,6 +71,8 @@ Step readMenu(std::u16string_view argument) {
   return MenuStep{std::u16string(entry)};
 }
 
+Step readField(std::u16string_view argument) { return FieldStep{std::u16string(trimmed(argument))}; }
+
 Step readType(std::u16string_view argument) { return TypeCharacters{std::u16string(argument)}; }
 
 struct Verb {
@@ -78,7 +80,7 @@ struct Verb {
   Step (*read)(std::u16string_view argument);
 };
 
-constexpr std::array<Verb, 11> kVerbs{{
+constexpr std::array<Verb, 12> kVerbs{{
     {u"click", [](std::u16string_view point) -> Step { return readMouse(MouseAction::click, point); }},
     {u"double", [](std::u16string_view point) -> Step { return readMouse(MouseAction::twice, point); }},
     {u"press", [](std::u16string_view point) -> Step { return readMouse(MouseAction::press, point); }},
@@ -90,6 +92,7 @@ constexpr std::array<Verb, 11> kVerbs{{
     {u"wait", readWait},
     {u"answer", readAnswer},
     {u"menu", readMenu},
+    {u"field", readField},
 }};
 
 }  // namespace

@@ -39,6 +39,9 @@ void MainWindow::addMenus() {
   file->addSeparator();
   addCommand(*file, tr("&Quit"), QKeySequence::Quit, {"Quit"});
 
+  QMenu* edit = menuBar()->addMenu(tr("&Edit"));
+  addCommand(*edit, tr("&Paste Text"), QKeySequence::Paste, {"Paste"});
+
   QMenu* view = menuBar()->addMenu(tr("&View"));
   addCommand(*view, tr("Zoom &Extents"), {}, {"Zoom", "Extents"});
   addCommand(*view, tr("Zoom &Window"), {}, {"Zoom", "Window"});

@@ -6,8 +6,9 @@
 
 class QMimeData;
 
-/// The desktop's clipboard. The plain text format is text for every program; a private format travels as
-/// UTF-16 (little-endian) under a MIME type made of its name.
+/// The desktop's clipboard. Plain text, HTML and RTF are those of every program; a private format travels as
+/// UTF-16 (little-endian) under a MIME type made of its name. What was put in can be had as long as this
+/// program runs, and afterwards where the desktop keeps it.
 class QtClipboard : public HostClipboard {
  public:
   unsigned registerFormat(std::u16string_view name) override;

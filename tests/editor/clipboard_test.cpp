@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include "od/db/OdDbDictionary.h"
+#include "tests/editor/edited_drawing.h"
 #include "tests/editor/edited_text.h"
 
 TEST(Clipboard, copy_with_only_carets_does_not_touch_it) {
@@ -38,6 +40,21 @@ TEST(Clipboard, plain_lines_become_blanks_in_an_existing_single_line_text) {
   text.session().beginPlain(/*single_line=*/true, /*had_text=*/true);
   text.application().clipboard().set(CF_UNICODETEXT, u"a\r\nb");
   EXPECT_EQ(text.keys("Ctrl+v").drawn(), "xa b|");
+}
+
+TEST(Clipboard, plain_lines_in_a_new_single_line_text_each_become_an_entity_at_finish) {
+  edited_drawing drawing;
+  auto source = odNew<OdDbText>();
+  source->setDatabaseDefaults(drawing.database.get());
+  drawing.session.emplace(drawing.application.document());
+  drawing.session->beginTextEdit(source);
+  drawing.application.clipboard().set(CF_UNICODETEXT, u"first\r\nsecond");
+  drawing.session->editable().paste(/*single_line=*/true, /*non_empty=*/false);
+  drawing.session->editable().endOfEdit(/*relayout=*/true);
+  drawing.session->finishEdit(/*accept=*/true, /*force=*/false);
+  ASSERT_EQ(drawing.session->writtenLines().size(), 2U);
+  EXPECT_EQ(odOpen<OdDbText>(drawing.session->writtenLines()[0])->textString(), OdString(u"first"));
+  EXPECT_EQ(odOpen<OdDbText>(drawing.session->writtenLines()[1])->textString(), OdString(u"second"));
 }
 
 TEST(Clipboard, plain_lines_become_items_of_the_list_they_are_pasted_into) {

@@ -110,3 +110,18 @@ TEST(EditSession, a_new_text_is_made_from_two_corners) {
   EXPECT_EQ(runLines("MTextCreate\n0,0\n2000,-500\n@type Brand new\n@key Ctrl+Enter\n").exit_code, 0);
   EXPECT_THAT(editedTexts(), HasSubstr("MTEXT\t0\tBrand new"));
 }
+
+TEST(EditSession, a_field_is_inserted_by_its_code_and_changed) {
+  sampleCopy();
+  const std::string inserted =
+      "@key Ctrl+Home\n@key PageUp\n@right 8400,7050\n@menu Insert field\n@field \\AcVar LUNITS\n";
+  EXPECT_EQ(runLines(kOpenTable + inserted + "@key Ctrl+Enter\n").exit_code, 0);
+  EXPECT_THAT(editedTexts(), HasSubstr("\t2Table for 8"));
+  EXPECT_THAT(contentOf(scratch("edited.dxf")), HasSubstr("\\AcVar LUNITS"));
+}
+
+TEST(EditSession, a_field_without_a_code_is_cancelled) {
+  const auto drawing = sampleCopy();
+  EXPECT_EQ(runLines(kOpenTable + "@right 8400,7050\n@menu 1049\n@field\n@key Ctrl+Enter\n").exit_code, 0);
+  EXPECT_EQ(contentOf(scratch("edited.dxf")), contentOf(drawing));
+}

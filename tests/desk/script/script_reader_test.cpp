@@ -90,6 +90,12 @@ TEST(ScriptReader, the_right_button_and_the_choice_from_its_menu_are_read) {
   EXPECT_EQ(std::get<MenuStep>(script[2].what).entry, u"1007");
 }
 
+TEST(ScriptReader, the_code_of_a_field_is_read_whole) {
+  EXPECT_EQ(only<FieldStep>(readScript("@field  \\AcVar Date \\f \"d M\" \n", "s")).code,
+            u"\\AcVar Date \\f \"d M\"");
+  EXPECT_EQ(only<FieldStep>(readScript("@field\n", "s")).code, u"");
+}
+
 TEST(ScriptReader, a_bad_line_is_refused_with_file_line_and_reason) {
   EXPECT_EQ(refusal("Open\n@click here\n"), "story.scr, line 2: \"here\" is not a point such as 10,20.");
   EXPECT_EQ(refusal("@jump 1,2"), "story.scr, line 1: \"@jump\" is no step of a script.");

@@ -79,12 +79,12 @@ TEST(FormatText, changes_the_case_of_letters) {
 }
 
 TEST(FormatText, takes_the_parts_of_a_file_s_name) {
-  const OdString path(u"/home/ann/plans/first.floor.dxf");
-  EXPECT_EQ(shown(path, u"%fn1"), "/home/ann/plans");
+  const OdString path(u"/drawings/plans/first.floor.dxf");
+  EXPECT_EQ(shown(path, u"%fn1"), "/drawings/plans");
   EXPECT_EQ(shown(path, u"%fn2"), "first.floor");
   EXPECT_EQ(shown(path, u"%fn4"), ".dxf");
   EXPECT_EQ(shown(path, u"%fn6"), "first.floor.dxf");
-  EXPECT_EQ(shown(path, u"%fn7"), "/home/ann/plans/first.floor.dxf");
+  EXPECT_EQ(shown(path, u"%fn7"), "/drawings/plans/first.floor.dxf");
   EXPECT_EQ(shown(OdString(u"C:\\plans\\.hidden"), u"%fn6%tc1"), ".HIDDEN");
 }
 
