@@ -22,9 +22,12 @@ QString argumentLabel(fields::argument argument) {
       return QDialog::tr("Name of the &variable:");
     case fields::argument::object:
       return QDialog::tr("&Handle of the object:");
-    default:
+    case fields::argument::expression:
       return QDialog::tr("&Expression:");
+    case fields::argument::none:
+      break;
   }
+  return QDialog::tr("&Argument:");
 }
 
 }  // namespace

@@ -12,11 +12,12 @@ from display import Display, needed
 class Desk:
     """Starts `scribe FILE` on a display of its own and sends keys and mouse events to it."""
 
-    def __init__(self, program, drawing, folder):
+    def __init__(self, program, drawing, folder, beside=None):
         self.process = None
         self.folder = folder
-        self.log = open(folder / "scribe.log", "wb")
-        self.display = Display()
+        self.beside = beside
+        self.log = open(folder / f"{drawing.stem}.log", "wb")
+        self.display = beside.display if beside else Display()
         self.environment = dict(os.environ, DISPLAY=self.display.name, QT_QPA_PLATFORM="xcb",
                                 XDG_CONFIG_HOME=str(folder / "config"), QT_SCALE_FACTOR="1", LC_ALL="C.UTF-8")
         try:
@@ -48,9 +49,15 @@ class Desk:
     def wait_for_window(self):
         for _ in range(300):
             if self.process.poll() is not None:
-                sys.exit(f"scribe ended before its window opened, see {self.folder}/scribe.log")
-            found = self.tool("search", "--onlyvisible", "--class", "scribe").split()
+                sys.exit(f"scribe ended before its window opened, see {self.log.name}")
+            found = self.tool("search", "--all", "--onlyvisible", "--pid", self.process.pid, "--class", "scribe").split()
             if found:
+    def turn_to(self):
+        """Brings the window to the front, with the keyboard."""
+        self.tool("windowraise", self.window)
+        self.tool("windowfocus", "--sync", self.window)
+        self.settle()
+
                 return found[0]
             time.sleep(0.1)
         sys.exit("the window did not open within 30 seconds")
@@ -180,4 +187,5 @@ class Desk:
             self.process.kill()
             self.process.wait()
         self.log.close()
-        self.display.close()
+        if not self.beside:
+            self.display.close()
