@@ -80,6 +80,15 @@ dxf::Record& OdDbObject::record() const {
   return *m_record;
 }
 
+OdDbObjectPtr OdDbObject::clone() const {
+  assertReadEnabled();
+  const auto copy = odCastOrThrow<OdDbObject>(isA()->create());
+  copy->m_own = std::make_unique<dxf::Record>(record());
+  copy->m_record = copy->m_own.get();
+  copy->m_database = m_database;
+  return copy;
+}
+
 std::unique_ptr<dxf::Record> OdDbObject::newRecord() const {
   const OdString& name = isA()->dxfName();
   return odNewRecord(name.isEmpty() ? isA()->name().toUtf8() : name.toUtf8(), {});

@@ -44,6 +44,10 @@ class OdDbObject : public OdGiDrawable {
   /// From write to read.
   void downgradeOpen();
 
+  /// An object of the same class with the same groups, outside the database and looking things up there. It
+  /// is for trying out and showing what the object might become: it bears the same handle and is not for
+  /// appending.
+  OdSmartPtr<OdDbObject> clone() const;
   /// Takes the object out of the drawing, or back in while the database lives.
   void erase(bool erasing = true);
   bool isErased() const;

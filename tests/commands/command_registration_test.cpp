@@ -15,4 +15,9 @@ TEST(Registration, loading_the_module_registers_its_commands_and_strings) {
   EXPECT_EQ(edit->group, u"HOST");
   EXPECT_EQ(edit->flags, 2U);
   EXPECT_EQ(host::resource_string(1031), u"MText");
+  for (const char16_t* name : {u"dText", u"-Text", u"justifytext", u"TextFit"})
+    EXPECT_NE(host::command_factory().find(name), nullptr);
+  ASSERT_NE(host::command_factory().find(u"ddEdit"), nullptr);
+  EXPECT_EQ(host::command_factory().find(u"ddEdit")->group, u"HOST");
+  EXPECT_EQ(host::command_factory().find(u"ddEdit")->flags, 2U);
 }

@@ -1,0 +1,22 @@
+#pragma once
+
+#include <span>
+
+#include "od/db/OdDbMText.h"
+
+/// A justification of the text commands, in the order of their keywords: Left Align Fit Center Middle Right
+/// TL TC TR ML MC MR BL BC BR.
+struct justify_row {
+  OdDb::TextHorzMode horizontal;
+  OdDb::TextVertMode vertical;
+  OdDb::AttachmentPoint attachment;  ///< what a multi-line text has for it
+};
+
+/// All fifteen.
+std::span<const justify_row> justify_rows();
+
+/// The place in `justify_rows` of the modes of a single-line text.
+int justify_index(OdDb::TextHorzMode horizontal, OdDb::TextVertMode vertical);
+
+/// Justifies a multi-line text by the modes of a single-line one and leaves its letters where they are.
+void ApplyMTextJustify(const OdDbMTextPtr& text, OdDb::TextHorzMode horizontal, OdDb::TextVertMode vertical);
