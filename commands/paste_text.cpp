@@ -80,7 +80,7 @@ void DoPasteContents(const std::u16string& text, bool formatted, bool multiline)
       !is_mtext ? new_line(database, lies, text)
                 : new_mtext(database, lies,
                             formatted ? text : mtext::escape_mtext(text.c_str(), /*keep_line_feeds=*/true));
-  PasteTracker tracker(pasted.text, pasted.line, lies.normal);
+  PasteTracker tracker(pasted.text, pasted.line, lies.normal, database);
   tracker.setPoint({});
   OdGePoint3d at;
   const HostPromptRequest request{.prompt = host::resource_string(is_mtext ? kCornerPrompt : kOriginPrompt),

@@ -2,13 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <numbers>
-
+#include "commands/paste_tracker.h"
 #include "host/clipboard.h"
+#include "mtext/entity/mtext_layout.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbDictionary.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
+#include "od/gi/OdGiRecorder.h"
 #include "tests/commands/command_run.h"
 
 namespace {
@@ -141,6 +142,27 @@ TEST(PasteText, asks_for_a_corner_or_an_origin) {
   run.clip(u"a\nb");
   run.paste_at(u"0,0");
   EXPECT_NE(run.said().find(u"Specify first corner"), std::u16string::npos);
+}
+
+TEST(PasteText, shows_the_text_under_the_cursor_while_it_asks) {
+  for (const bool is_line : {true, false}) {
+    const OdDbDatabasePtr database = OdDbDatabase::createEmpty();
+    auto text = odNew<OdDbMText>();
+    text->setDatabaseDefaults(database.get());
+    text->setContents(u"a");
+    auto line = odNew<OdDbText>();
+    line->setTextString(u"a");
+    PasteTracker tracker(is_line ? OdDbMTextPtr() : text, is_line ? line : OdDbTextPtr(),
+                         OdGeVector3d::kZAxis, *database);
+    database->setTextLayout(std::make_shared<mtext::mtext_layout>());
+    tracker.setPoint({30, 40, 7});
+    ASSERT_EQ(tracker.drawables().size(), 1U);
+    OdGiRecorder recorder;
+    recorder.record(*tracker.drawables()[0]);
+    ASSERT_TRUE(recorder.extents().isValidExtents());
+    EXPECT_NEAR(recorder.extents().minPoint().x, 30, 2);
+    EXPECT_NEAR(recorder.extents().minPoint().y, is_line ? 40 : 37.5, 2);
+  }
 }
 
 TEST(PasteText, lies_in_the_plane_of_new_texts_under_the_point) {

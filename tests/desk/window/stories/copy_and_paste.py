@@ -94,7 +94,12 @@ with Desk(options.program, source, options.folder) as first:
         end_text(second, target)
 
         give(second, b"Dropped", "UTF8_STRING")
-        second.line("Paste")
+        empty = second.settle()
+        second.click(900, 500)
+        second.key("ctrl+v")
+        second.tool("mousemove", *second.view_middle())
+        second.until_changed(empty, "no text hangs on the cursor", least=100)
+        story.keep_picture(second, options, "3-text-on-the-cursor.png")
         second.click(*second.view_middle())
         second.line("Save")
         second.until(lambda: "Dropped" in contents(target), "no text was pasted into the drawing")
