@@ -1,6 +1,7 @@
 #include "desk/script/script_desk.h"
 
 #include "desk/document/drawing_file.h"
+#include "desk/document/list_alphabets.h"
 #include "desk/document/space_extents.h"
 #include "desk/document/view_motion.h"
 #include "host/prompt.h"
@@ -28,6 +29,7 @@ ScriptDesk::ScriptDesk(OdDbDatabasePtr drawing, Script script, ScriptCommandLine
                      .ticks = m_clock,
                      .window = m_window,
                      .update_now = [this] { update(); }}) {
+  addListAlphabets(m_settings);
   m_events.setSource(m_source);
   m_window.setSource(m_source);
   m_fields.setSource(m_source);

@@ -1,10 +1,12 @@
 #include "desk/window/window_desk.h"
 
+#include <QDesktopServices>
 #include <QKeyEvent>
 #include <algorithm>
 
 #include "desk/commands/command_table.h"
 #include "desk/document/drawing_file.h"
+#include "desk/document/list_alphabets.h"
 #include "desk/window/command_edit.h"
 #include "desk/window/command_panel.h"
 #include "desk/window/drawing_view.h"
@@ -24,7 +26,11 @@ WindowDesk::WindowDesk(IProfile& profile)
       m_progress(m_window),
       m_line(m_window.panel()),
       m_source(m_keys),
-      m_events(m_window),
+      m_help(guidesFolder(), &QDesktopServices::openUrl,
+             [this](const QString& guide) {
+               m_line.write(u"No browser could be opened. The guide is " + fromQt(guide) + u".");
+             }),
+      m_events(m_window, m_help),
       m_host_window(m_window.view(), [this](const HostWindowMessage& message) { m_source.push(message); }),
       m_application({.events = m_events,
                      .help = m_help,
@@ -38,6 +44,7 @@ WindowDesk::WindowDesk(IProfile& profile)
       m_router(m_window, {.has_session = [this] { return document().hasSession(); },
                           .inputs_wait = [this] { return m_source.hasInputs(); },
                           .to_session = [this](const QKeyEvent& event) { sendKey(event); }}) {
+  addListAlphabets(m_settings);
   registerDeskCommands(m_application.commandFactory(), *this);
   connectWidgets();
   m_source.setOnIdle([this] { beIdle(); });

@@ -9,11 +9,11 @@
 #include "desk/window/progress.h"
 #include "desk/window/qt_clipboard.h"
 #include "desk/window/qt_events.h"
+#include "desk/window/qt_help.h"
 #include "desk/window/qt_input_source.h"
 #include "desk/window/qt_tick_source.h"
 #include "desk/window/qt_window.h"
 #include "desk/window/window_command_line.h"
-#include "host/help.h"
 #include "host/key_state.h"
 #include "host/settings.h"
 
@@ -56,8 +56,8 @@ class WindowDesk : public Desk {
   WindowCommandLine m_line;
   HostHeldKeys m_keys;
   QtInputSource m_source;
+  QtHelp m_help;
   QtEvents m_events;
-  HostHelpLog m_help;
   HostSettings m_settings;
   QtClipboard m_clipboard;
   QtTickSource m_ticks;
