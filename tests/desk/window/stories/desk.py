@@ -9,17 +9,26 @@ import picture
 from display import Display, needed
 
 
-class Desk:
-    """Starts `scribe FILE` on a display of its own and sends keys and mouse events to it."""
+# Below the view, so that the toolbar of a session hides nothing that a story looks at.
+TOOLBAR_PLACE = (20, 700)
 
-    def __init__(self, program, drawing, folder, beside=None):
+
+class Desk:
+    """Starts `scribe FILE` and sends keys and mouse events to it; on a display of its own, or on that of another desk.
+
+    Places are pixels of the display; on one of `density` 2 the window has twice as many of them each way.
+    """
+
+    def __init__(self, program, drawing, folder, beside=None, density=1):
         self.process = None
         self.folder = folder
         self.beside = beside
+        self.density = density
         self.log = open(folder / f"{drawing.stem}.log", "wb")
-        self.display = beside.display if beside else Display()
+        self.display = beside.display if beside else Display(f"{1280 * density}x{800 * density}")
         self.environment = dict(os.environ, DISPLAY=self.display.name, QT_QPA_PLATFORM="xcb",
-                                XDG_CONFIG_HOME=str(folder / "config"), QT_SCALE_FACTOR="1", LC_ALL="C.UTF-8")
+                                XDG_CONFIG_HOME=str(folder / "config"), QT_SCALE_FACTOR=str(density), LC_ALL="C.UTF-8")
+        self.put_toolbar(*TOOLBAR_PLACE)
         try:
             self.process = subprocess.Popen([str(program), str(drawing)], env=self.environment, cwd=folder,
                                             stdout=self.log, stderr=self.log)
@@ -34,10 +43,23 @@ class Desk:
     def __exit__(self, *_):
         self.end()
 
+    def put_toolbar(self, x, y):
+        """Has the toolbars of sessions stand at a place of the screen, as if one had been left there."""
+        self.toolbar_place = x, y
+        profile = self.folder / "config" / "scribe" / "profile.ini"
+        profile.parent.mkdir(parents=True, exist_ok=True)
+        profile.write_text(f"[SCRIBE]\nptpos.x={x}\nptpos.y={y}\n", encoding="utf-8")
+
     def open_window(self):
         self.window = self.wait_for_window()
-        self.tool("windowsize", "--sync", self.window, "1280", "800")
+        self.tool("windowsize", "--sync", self.window, 1280 * self.density, 800 * self.density)
         self.tool("windowmove", self.window, "0", "0")
+        self.tool("windowfocus", "--sync", self.window)
+        self.settle()
+
+    def turn_to(self):
+        """Brings the window to the front, with the keyboard."""
+        self.tool("windowraise", self.window)
         self.tool("windowfocus", "--sync", self.window)
         self.settle()
 
@@ -52,12 +74,6 @@ class Desk:
                 sys.exit(f"scribe ended before its window opened, see {self.log.name}")
             found = self.tool("search", "--all", "--onlyvisible", "--pid", self.process.pid, "--class", "scribe").split()
             if found:
-    def turn_to(self):
-        """Brings the window to the front, with the keyboard."""
-        self.tool("windowraise", self.window)
-        self.tool("windowfocus", "--sync", self.window)
-        self.settle()
-
                 return found[0]
             time.sleep(0.1)
         sys.exit("the window did not open within 30 seconds")
@@ -159,11 +175,11 @@ class Desk:
 
     def view_box(self):
         """The inner part of the drawing view: left, top, right, bottom."""
-        return 10, 40, 1270, 640
+        return tuple(side * self.density for side in (10, 40, 1270, 640))
 
     def view_middle(self):
         """A pixel near the middle of the drawing view."""
-        return 640, 340
+        return 640 * self.density, 340 * self.density
 
     def wait_until_saved(self, drawing):
         """Waits for the backup that every save leaves."""

@@ -92,6 +92,11 @@ class Places:
         return (self.right - self.left) / self.sheet.width
 
 
+def is_letter(pixel):
+    """Whether a pixel is one of the text, which is white."""
+    return min(pixel) > 200
+
+
 def is_red(pixel):
     red, green, blue = pixel
     return red > 150 and green < 90 and blue < 90

@@ -28,6 +28,11 @@ class Picture:
         columns, rows = [x for x, _ in found], [y for _, y in found]
         return min(columns), min(rows), max(columns), max(rows)
 
+    def first(self, holds, box):
+        """The first pixel within `box`, row by row, for which `holds` is true."""
+        left, top, right, bottom = box
+        return next((x, y) for y in range(top, bottom) for x in range(left, right) if holds(self.at(x, y)))
+
     def differences(self, other, box):
         """How many pixels differ within box = (left, top, right, bottom)."""
         left, top, right, bottom = box
