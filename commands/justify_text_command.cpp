@@ -12,15 +12,18 @@
 namespace {
 
 constexpr int kSelectPrompt = 1032;
+/// Mode flags of the selection: what was selected before counts at first alone.
+constexpr unsigned kFirstPass = 0x8000;
+constexpr unsigned kLaterPass = 0xC000;
 
 /// Asks until a text is among what was selected; the answer that gave no selection, else `kAnswerValue`.
 int select_texts(HostDocument& document, selected_texts& texts) {
   const std::u16string prompt = host::resource_string(kSelectPrompt);
-  while (texts.empty()) {
+  for (unsigned flags = kFirstPass; texts.empty(); flags = kLaterPass) {
     HostSelectionSet picked;
-    const int answer = document.prompt().select(prompt, kSelectMany, picked);
+    const int answer = document.prompt().select(prompt, flags, picked);
     if (answer != kAnswerValue) return answer;
-    texts = open_texts(picked);
+    texts = open_texts(without_locked(picked, document.prompt()));
   }
   return kAnswerValue;
 }

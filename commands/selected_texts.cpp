@@ -11,7 +11,8 @@ namespace {
 constexpr int kSelectTexts = 1069;
 constexpr int kNotTexts = 1070;
 
-/// What of a selection may be changed. The user is told how many entities may not.
+}  // namespace
+
 HostSelectionSet without_locked(const HostSelectionSet& picked, HostEdPrompt& prompt) {
   HostSelectionSet open;
   for (const OdDbObjectId& id : picked.ids())
@@ -22,8 +23,6 @@ HostSelectionSet without_locked(const HostSelectionSet& picked, HostEdPrompt& pr
                    odToUtf16(std::to_string(locked)));
   return open;
 }
-
-}  // namespace
 
 std::optional<HostSelectionSet> ask_for_texts(HostDocument& document) {
   HostSelectionSet picked;

@@ -8,6 +8,7 @@
 #include "od/db/OdDbText.h"
 
 class HostDocument;
+class HostEdPrompt;
 
 /// Texts that a command changes, open for write, in the order in which they were selected.
 struct selected_texts {
@@ -20,6 +21,10 @@ struct selected_texts {
 /// Asks for entities. Nothing when the selection was cancelled or left empty. Entities on locked layers are
 /// taken out of it, and the user is told how many.
 std::optional<HostSelectionSet> ask_for_texts(HostDocument& document);
+
+/// What of a selection may be changed: nothing on a locked layer. The user is told how many entities are left
+/// out.
+HostSelectionSet without_locked(const HostSelectionSet& picked, HostEdPrompt& prompt);
 
 /// Opens the texts of a selection; entities of other kinds are left out. Throws what opening throws.
 selected_texts open_texts(const HostSelectionSet& selection);

@@ -71,6 +71,15 @@ TEST(JustifyTextSelection, of_lines_alone_is_asked_for_again_without_any_message
     EXPECT_TRUE(line.empty() || line.starts_with(u"Select Text object"));
 }
 
+TEST_F(JustifyText, leaves_out_what_lies_on_a_locked_layer_and_asks_again) {
+  run.lockLayer();
+  const std::string before = run.database->writeBytes();
+  run.application.input().line(u"");
+  run.application.input().cancel();
+  EXPECT_EQ(justify(), kCommandCancelled);
+  EXPECT_EQ(run.database->writeBytes(), before);
+}
+
 TEST(JustifyTextSelection, that_stays_empty_ends_the_command) {
   command_run run;
   run.application.input().line(u"");
