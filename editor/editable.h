@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "editor/mtext_editor.h"
+#include "editor/stack_half.h"
 #include "editor/text_frame.h"
 #include "host/composer.h"
 #include "mtext/dispose.h"
@@ -15,11 +16,11 @@
 #include "mtext/string_size_finder.h"
 #include "od/db/OdDbEntity.h"
 
-/// Background of the text while it is edited, as the entity asks for it.
 namespace rich {
 struct text;
 }
 
+/// Background of the text while it is edited, as the entity asks for it.
 struct text_background {
   bool on = false;
   OdCmEntityColor color;
@@ -202,7 +203,15 @@ class ExMTextEditable : public OdDbEntity {
   const mtext::format::string_partial& pendingFormat() const { return m_pending_format; }
   /// What the selections have in common; recomputed by `endOfEdit`.
   const mtext::format::string_partial& currentFormat() const { return m_current_format; }
+  /// The same for a toolbar to show: at carets what a typed character would have of it, a height in drawing
+  /// units.
+  mtext::format::string_partial shownFormat() const;
   const mtext::format::paragraph_partial& currentParagraph() const { return m_current_paragraph; }
+
+  // ---- editable_case.cpp
+
+  /// The selected letters in upper case, or else in lower case. Labels of lists and fields keep theirs.
+  void changeCase(bool to_upper);
 
   // ---- editable_style.cpp
 
@@ -222,7 +231,10 @@ class ExMTextEditable : public OdDbEntity {
 
   // ---- editable_stack.cpp
 
+  /// Each selection becomes the upper half of a stack. One that is such a half already becomes plain text
+  /// again.
   void superscript();
+  /// The same with the lower half.
   void subscript();
   void stackSelection();
 
@@ -242,8 +254,20 @@ class ExMTextEditable : public OdDbEntity {
 
   /// The field whose value stands at a point in text coordinates; null if none does.
   const mtext::marks::field* fieldAt(const OdGePoint2d& at) const;
+  /// The field itself that a mark of this text stands for.
+  OdDbFieldPtr fieldObject(const mtext::marks::field& mark) const;
+  /// Puts a field in place of each selection, with the format there.
+  void insertField(const OdDbFieldPtr& field);
+  /// Puts a field in place of the one at a point, with the format of its begin; nothing happens where none
+  /// is. The carets stay.
+  void replaceField(const OdGePoint2d& at, const OdDbFieldPtr& field);
   /// The value of the field at a point becomes text as any other.
   void convertFieldToText(const OdGePoint2d& at);
+  /// The whole text as a container, evaluated, with a placeholder for each field; null for a text without
+  /// fields. `present`, the container that the entity has now or null, lends the fields that are still there.
+  OdDbFieldPtr fieldText(const OdDbField* present) const;
+  /// The same for line `index` alone, as plain text.
+  OdDbFieldPtr lineField(std::size_t index, const OdDbField* present) const;
 
   // ---- end_of_edit.cpp
 
@@ -254,20 +278,8 @@ class ExMTextEditable : public OdDbEntity {
   void layOut();
   /// What the edits so far have cost: each of these reads the whole text. A key should cost one of each.
   struct costs {
-  /// The field itself that a mark of this text stands for.
-  OdDbFieldPtr fieldObject(const mtext::marks::field& mark) const;
-  /// Puts a field in place of each selection, with the format there.
-  void insertField(const OdDbFieldPtr& field);
-  /// Puts a field in place of the one at a point, with the format of its begin; nothing happens where none
-  /// is. The carets stay.
-  void replaceField(const OdGePoint2d& at, const OdDbFieldPtr& field);
     unsigned layouts = 0;     ///< the text was laid out
     unsigned numberings = 0;  ///< its lists were marked and counted
-  /// The whole text as a container, evaluated, with a placeholder for each field; null for a text without
-  /// fields. `present`, the container that the entity has now or null, lends the fields that are still there.
-  OdDbFieldPtr fieldText(const OdDbField* present) const;
-  /// The same for line `index` alone, as plain text.
-  OdDbFieldPtr lineField(std::size_t index, const OdDbField* present) const;
   };
   const costs& costsSoFar() const { return m_costs; }
   void notifyWatchers();
@@ -312,7 +324,12 @@ class ExMTextEditable : public OdDbEntity {
   /// Backspace at one selection. Returns whether it erased a word by `word`.
   bool deleteBackAt(const mtext::marks::selection& selection, bool word);
   void pasteCodes(const std::u16string& codes);
+  /// The characters of a field, which enters the table of fields.
+  mtext::geom_multitext fieldParts(const OdDbFieldPtr& field, const mtext::format::string& format);
+  /// Gives the fields of a text that was read their values, and evaluates those that nobody knows here.
+  void bindFields(mtext::multitext& text);
   void pastePlain(std::u16string_view text);
+  void pasteForeign(const rich::text& foreign, bool single_line, bool non_empty);
   /// Whether a caret stands in a paragraph that opens with a label nobody has marked yet.
   bool caretMeetsNewLabel();
   /// Puts each paragraph of `range` a step in, or out with `back`: a list item by a level, others by a tab.
@@ -324,14 +341,10 @@ class ExMTextEditable : public OdDbEntity {
   void startList(std::size_t behind_tab);
   /// What a selected text becomes, in the format of its begin; nothing: it stays.
   using rebuilding = std::function<std::optional<mtext::geom_multitext>(const mtext::geom_multitext& text,
-  /// The characters of a field, which enters the table of fields.
-  mtext::geom_multitext fieldParts(const OdDbFieldPtr& field, const mtext::format::string& format);
-  /// Gives the fields of a text that was read their values, and evaluates those that nobody knows here.
-  void bindFields(mtext::multitext& text);
                                                                         const mtext::format::string& format)>;
-  void pasteForeign(const rich::text& foreign, bool single_line, bool non_empty);
   /// Rebuilds what each selection holds and selects the outcome.
   void rebuildSelections(const rebuilding& make);
+  void moveToHalf(editing::stack_half half);
   void caretPointsIn(const mtext::geom_multitext& text, const mtext::marks::selection& selection,
                      OdGePoint2d& top, OdGePoint2d& bottom) const;
   /// Inserts what is composed into a copy of the text as it is now.

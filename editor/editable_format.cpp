@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "editor/editable.h"
 #include "editor/selection_scope.h"
 #include "mtext/format_range.h"
@@ -29,4 +31,12 @@ void ExMTextEditable::applyFormat(const mtext::format::string_partial& change) {
   }
   m_layout_dirty = true;
   recomputeCurrentFormats();
+}
+
+mtext::format::string_partial ExMTextEditable::shownFormat() const {
+  const auto all = selections();
+  const bool carets =
+      std::all_of(all.begin(), all.end(), [](const mtext::marks::selection& each) { return each.empty(); });
+  const auto& shown = m_current_format;
+  return resolved(carets ? mtext::format::applied_to(shown, m_pending_format) : shown, textHeight());
 }

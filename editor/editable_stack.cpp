@@ -52,19 +52,23 @@ void ExMTextEditable::rebuildSelections(const rebuilding& make) {
   recomputeCurrentFormats();
 }
 
-void ExMTextEditable::superscript() {
-  rebuildSelections([this](const geom_multitext& text, const mtext::format::string& format) {
-    const std::u16string raw = mtext::serialize_raw(mtext::flatten(text), /*tilde_spaces=*/false);
-    return std::optional(mtext::to_geom(mtext::stack(format, raw, u"", kCaret), textHeight(), *m_finder));
+void ExMTextEditable::moveToHalf(editing::stack_half half) {
+  using editing::stack_half;
+  rebuildSelections([this, half](const geom_multitext& text, const mtext::format::string& format) {
+    const stack_half before = text.parts.size() == 1 ? editing::half_of(text.parts[0]) : stack_half::none;
+    const std::u16string letters = before == stack_half::none
+                                       ? mtext::serialize_raw(mtext::flatten(text), /*tilde_spaces=*/false)
+                                       : editing::letters_of_half(text.parts[0]);
+    if (before == half) return std::optional(mtext::to_geom(letters, format, textHeight(), *m_finder));
+    const std::u16string none;
+    const bool above = half == stack_half::upper;
+    const mtext::stack made(format, above ? letters : none, above ? none : letters, kCaret);
+    return std::optional(mtext::to_geom(made, textHeight(), *m_finder));
   });
 }
 
-void ExMTextEditable::subscript() {
-  rebuildSelections([this](const geom_multitext& text, const mtext::format::string& format) {
-    const std::u16string raw = mtext::serialize_raw(mtext::flatten(text), /*tilde_spaces=*/false);
-    return std::optional(mtext::to_geom(mtext::stack(format, u"", raw, kCaret), textHeight(), *m_finder));
-  });
-}
+void ExMTextEditable::superscript() { moveToHalf(editing::stack_half::upper); }
+void ExMTextEditable::subscript() { moveToHalf(editing::stack_half::lower); }
 
 void ExMTextEditable::stackSelection() {
   rebuildSelections([this](const geom_multitext& text,

@@ -18,11 +18,14 @@ bool same_places(const std::vector<mtext::marks::selection>& a,
 }  // namespace
 
 void ExMTextEditable::recomputeCurrentFormats() {
+  namespace format = mtext::format;
   const auto all = selections();
-  if (all.empty()) return;
-  const auto& newest = all.back();
-  m_current_format = mtext::format::current_format(m_text, m_default_format, newest);
-  m_current_paragraph = mtext::format::current_paragraph_format(m_text, newest);
+  for (std::size_t at = 0; at < all.size(); ++at) {
+    const auto letters = format::current_format(m_text, m_default_format, all[at]);
+    const auto paragraphs = format::current_paragraph_format(m_text, all[at]);
+    m_current_format = at == 0 ? letters : format::intersection(m_current_format, letters);
+    m_current_paragraph = at == 0 ? paragraphs : format::intersection(m_current_paragraph, paragraphs);
+  }
 }
 
 void ExMTextEditable::layOut() {

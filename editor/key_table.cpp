@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "editor/letter_toggle.h"
 #include "editor/part_kinds.h"
 #include "editor/smart_edit.h"
 #include "host/key_code.h"
@@ -17,10 +18,16 @@ constexpr auto kEdits = key_effect::edits;
 constexpr auto kMoves = key_effect::moves;
 constexpr auto kRestores = key_effect::restores;
 constexpr auto kPasses = key_effect::passes;
+constexpr auto kFormats = key_effect::formats;
 
 bool ctrl(const session&, const held& keys) { return keys.ctrl_alone(); }
 bool shift(const session&, const held& keys) { return keys.shift; }
 bool ctrl_shift(const session&, const held& keys) { return keys.ctrl_alone() && keys.shift; }
+/// A single-line text has one format, and a session with few tools has no buttons for weight and slant.
+bool formats_letters(const session& s, const held& keys) {
+  return keys.ctrl_alone() && !s.isSingleLine() && !s.isCompact();
+}
+bool scores_letters(const session& s, const held& keys) { return keys.ctrl_alone() && !s.isSingleLine(); }
 bool existing_line(const session& s, const held&) { return s.editsExistingLine(); }
 
 bool several_selections(const session& s, const held&) { return s.editable().selectionCount() > 1; }
@@ -59,6 +66,10 @@ void select_all(session& s, const held&) { s.editable().selectRange(0, -1, /*sna
 void column_break(session& s, const held&) { s.editable().insertColumnBreak(); }
 void redo(session& s, const held&) { s.redoStep(); }
 void undo(session& s, const held&) { s.undoStep(); }
+void bold(session& s, const held&) { toggle(s.editable(), letter_toggle::bold); }
+void italic(session& s, const held&) { toggle(s.editable(), letter_toggle::italic); }
+void underline(session& s, const held&) { toggle(s.editable(), letter_toggle::underline); }
+void overline(session& s, const held&) { toggle(s.editable(), letter_toggle::overline); }
 
 // Space and V open a step of their own in front of the character's, so that each costs an undo step after
 // another key. That is deliberate.
@@ -86,8 +97,12 @@ constexpr key_row kRows[] = {
     {VK_DELETE, shift, cut, kUndoDelete, kEdits, false, u"cuts"},
     {VK_DELETE, nullptr, delete_forward, kUndoDelete, kEdits, true, u"deletes"},
     {'A', ctrl, select_all, kUndoNone, kEdits, false, u"selects all"},
+    {'B', formats_letters, bold, kUndoToolbar, kFormats, false, u"toggles bold"},
     {'C', ctrl, copy, kUndoNone, kEdits, false, u"copies"},
+    {'I', formats_letters, italic, kUndoToolbar, kFormats, false, u"toggles italic"},
+    {'O', scores_letters, overline, kUndoToolbar, kFormats, false, u"toggles overlined"},
     {'T', ctrl, column_break, kUndoNone, kEdits, false, u"breaks the column"},
+    {'U', scores_letters, underline, kUndoToolbar, kFormats, false, u"toggles underlined"},
     {'V', ctrl, paste, kUndoDelete, kEdits, false, u"pastes"},
     {'V', nullptr, nullptr, kUndoDelete, kPasses, false, u"types a v"},
     {'X', ctrl, cut, kUndoDelete, kEdits, false, u"cuts"},

@@ -12,6 +12,7 @@ namespace editing {
 enum class key_effect {
   edits,     ///< all is painted anew
   moves,     ///< the caret alone: starts a new undo run, and the text layer stays as it is
+  formats,   ///< edits, and the watchers are told even where no selection moves
   restores,  ///< another text takes its place, laid out already: nothing of an edit is left to close
   passes,    ///< the key is not handled: its character message comes through
 };

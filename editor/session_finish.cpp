@@ -44,6 +44,7 @@ void smart_edit::writeColumns(OdDbMText& target) {
 void smart_edit::writeContents(OdDbMText& target) {
   if (const OdDbFieldPtr top = m_editable->fieldText(field_of(target).get())) {
     target.setField(kFieldKey, *top);
+    if (!target.isDBRO()) m_written_field = top;
   } else {
     target.setContents(m_editable->contentsText());
     target.removeField(kFieldKey);

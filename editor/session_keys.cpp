@@ -37,6 +37,7 @@ void handle_key_down(smart_edit& session, const HostWindowMessage& message) {
     session.repaint(redraw_request::kGadgets | redraw_request::kText);
   host::update_now();
   if (!row || row->effect != key_effect::restores) alive->endOfEdit(/*relayout=*/true);
+  if (row && row->effect == key_effect::formats) alive->notifyWatchers();
 }
 
 void handle_character(smart_edit& session, const HostWindowMessage& message) {

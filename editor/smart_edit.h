@@ -68,6 +68,9 @@ class smart_edit : public MTextEditor {
   /// end; without an entity returns `accept`.
   bool finishEdit(bool accept, bool force);
 
+  /// The fields of a text that is in no drawing yet, as a container; null for one without fields. Whoever puts
+  /// the text into a drawing has to set them there, under "TEXT".
+  const OdDbFieldPtr& writtenField() const { return m_written_field; }
   /// The lines of a new single-line text, each an entity in the drawing, once the session has ended.
   const std::vector<OdDbObjectId>& writtenLines() const { return m_written_lines; }
 
@@ -192,6 +195,7 @@ class smart_edit : public MTextEditor {
   OdDbTextPtr m_source_line;
   origin m_origin;
   std::vector<OdDbObjectId> m_written_lines;
+  OdDbFieldPtr m_written_field;
   std::optional<OdGePoint3d> m_exit_point;
   bool m_single_line = false;
   bool m_had_text = false;

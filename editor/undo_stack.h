@@ -12,6 +12,7 @@ enum undo_kind : int {
   kUndoGadget = 3,   ///< press or drag on a tab, an indent, a column gadget
   kUndoToolbar = 4,  ///< changes from the toolbar
   kUndoSize = 5,     ///< drag of a width or height sizer
+  kUndoSymbol = 6,   ///< a character from the symbol dialog
   kUndoField = 7,    ///< a field is inserted, changed, or becomes text
   kUndoMenu = 8,     ///< a choice from a menu
   kUndoPresent = 9   ///< the present state, which undo and redo put aside

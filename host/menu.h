@@ -16,6 +16,7 @@ struct HostMenuItem {
   std::u16string hint;  ///< at the right edge: keys that do the same, or the sign that is inserted
   bool enabled = true;
   bool checked = false;
+  bool radio = false;                ///< checked by a dot: one of several rows is
   std::vector<HostMenuItem> rows{};  ///< of the sub-menu
 
   bool isSeparator() const { return text.empty(); }

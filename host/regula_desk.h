@@ -6,7 +6,7 @@
 class HostWindow;
 
 /// A reference product that may stand beside the application. Where it does, it shows the popup menu of a
-/// text, so that it can put the search for the selected words into it.
+/// text, so that it can put the search for the selected words into it, and the toolbar has a button for it.
 class IRegulaDesk : public IKrUnknown {
  public:
   using Parent = IKrUnknown;
@@ -17,4 +17,7 @@ class IRegulaDesk : public IKrUnknown {
   /// at, -1 for none. `owner` may be null.
   virtual int showMenu(HostWindow* owner, const char16_t* selected, const HostMenu& menu, int x, int y,
                        int position) = 0;
+  /// Asks in which of its books to search for `text`, in a menu at the pixel `x`, `y` of the view's window,
+  /// and searches.
+  virtual void search(HostWindow* owner, const char16_t* text, int x, int y) = 0;
 };

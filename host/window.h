@@ -28,6 +28,8 @@ class HostWindow {
   virtual void takeFocus() = 0;
   /// Shows a menu at a pixel of the view and waits; the chosen command, 0 for none.
   virtual int popupMenu(const HostMenu& menu, HostPixel at) = 0;
+  /// The pixel of the view that stands at a pixel of the screen.
+  virtual HostPixel fromScreen(HostPixel screen) const = 0;
   /// Shows a short text beside the mouse, in place of the one that is shown there already; the mouse takes it
   /// along. Lines end with a line feed.
   virtual void showTip(std::u16string_view text) = 0;

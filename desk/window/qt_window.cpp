@@ -1,5 +1,6 @@
 #include "desk/window/qt_window.h"
 
+#include <QActionGroup>
 #include <QMenu>
 #include <QWidget>
 
@@ -33,28 +34,41 @@ QString labelOf(const HostMenuItem& item) {
 
 void addRows(QMenu& menu, const HostMenu& rows);
 
-void addRow(QMenu& menu, const HostMenuItem& item) {
-  if (item.isSeparator()) {
-    menu.addSeparator();
-    return;
-  }
-  if (!item.rows.empty()) return addRows(*menu.addMenu(toQt(item.text)), item.rows);
-  QAction* row = menu.addAction(labelOf(item));
-  row->setData(item.command);
-  row->setEnabled(item.enabled);
-  row->setCheckable(item.checked);
-  row->setChecked(item.checked);
+/// The action that a row becomes; the rows of its sub-menu come along.
+QAction* addRow(QMenu& menu, const HostMenuItem& item) {
+  if (item.isSeparator()) return menu.addSeparator();
+  if (item.rows.empty()) return menu.addAction(labelOf(item));
+  QMenu* opened = menu.addMenu(toQt(item.text));
+  addRows(*opened, item.rows);
+  return opened->menuAction();
 }
 
 void addRows(QMenu& menu, const HostMenu& rows) {
-  for (const HostMenuItem& row : rows) addRow(menu, row);
+  // What belongs to a group of its own is checked by a dot.
+  auto* dots = new QActionGroup(&menu);
+  for (const HostMenuItem& item : rows) {
+    QAction* row = addRow(menu, item);
+    row->setData(item.command);
+    row->setEnabled(item.enabled);
+    row->setCheckable(item.checked);
+    row->setChecked(item.checked);
+    if (item.radio) dots->addAction(row);
+  }
 }
 
 }  // namespace
 
 void QtWindow::setCursor(HostCursor shape) { m_view.setCursor(shapeOf(shape)); }
 
-void QtWindow::takeFocus() { m_view.setFocus(); }
+void QtWindow::takeFocus() {
+  m_view.activateWindow();
+  m_view.setFocus();
+}
+
+HostPixel QtWindow::fromScreen(HostPixel screen) const {
+  const QPoint at = m_view.mapFromGlobal(QPoint(screen.x, screen.y));
+  return {at.x(), at.y()};
+}
 
 int QtWindow::popupMenu(const HostMenu& rows, HostPixel at) {
   QMenu menu(&m_view);

@@ -21,6 +21,7 @@ class QtWindow : public HostWindow {
   void releaseMouse() override {}
   void takeFocus() override;
   int popupMenu(const HostMenu& rows, HostPixel at) override;
+  HostPixel fromScreen(HostPixel screen) const override;
   void showTip(std::u16string_view text) override;
   void hideTip() override;
   void post(unsigned message) override;

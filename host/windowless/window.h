@@ -13,7 +13,8 @@ class WindowlessWindow : public HostWindow {
   void setCursor(HostCursor shape) override { m_cursor = shape; }
   void captureMouse() override { m_captured = true; }
   void releaseMouse() override { m_captured = false; }
-  void takeFocus() override {}
+  void takeFocus() override { ++m_focus_taken; }
+  HostPixel fromScreen(HostPixel screen) const override { return screen; }
   int popupMenu(const HostMenu& menu, HostPixel at) override;
   void showTip(std::u16string_view text) override { m_tip = text; }
   void hideTip() override { m_tip.clear(); }
@@ -27,6 +28,8 @@ class WindowlessWindow : public HostWindow {
   /// Choices for which the menu had no row that can be chosen.
   const std::vector<std::u16string>& refused() const { return m_refused; }
   HostCursor cursor() const { return m_cursor; }
+  /// How often the view was given the focus.
+  int focusTaken() const { return m_focus_taken; }
   bool isCaptured() const { return m_captured; }
   /// The text beside the mouse; empty while none is shown.
   const std::u16string& tip() const { return m_tip; }
@@ -40,6 +43,7 @@ class WindowlessWindow : public HostWindow {
  private:
   HostCursor m_cursor = IDC_ARROW;
   bool m_captured = false;
+  int m_focus_taken = 0;
   std::u16string m_tip;
   std::deque<std::u16string> m_choices;
   std::vector<std::u16string> m_refused;
