@@ -11,7 +11,7 @@
 namespace {
 
 /// What a key does to an undo run of the kind 6 that stands before it.
-enum run : int { kKept = 6, kEnded = 0, kDelete = 1, kType = 2 };
+enum run : int { kKept = 6, kEnded = 0, kDelete = 1, kType = 2, kFormat = 4 };
 
 /// What a key has painted anew.
 enum painted { kAll, kGadgetsAlone };
@@ -62,8 +62,12 @@ constexpr row kMultiLine[] = {
     {"Shift+Delete", "a[b]c", "a|c", kDelete, kAll},
     {"Delete*2", "a|bcd", "a|d", kDelete, kAll},
     {"Ctrl+a", "a|b", "[ab]", kKept, kAll},
+    {"Ctrl+b*2", "a[b]c", "a[b]c", kFormat, kAll},
     {"Ctrl+c", "a[b]c", "a[b]c", kKept, kAll},
+    {"Ctrl+i*2", "a[b]c", "a[b]c", kFormat, kAll},
+    {"Ctrl+o*2", "a[b]c", "a[b]c", kFormat, kAll},
     {"Ctrl+t*2", "a|b", "a‖|b", kKept, kAll},
+    {"Ctrl+u*2", "a[b]c", "a[b]c", kFormat, kAll},
     {"Ctrl+v*2", "a|b", "apq|b", kDelete, kAll},
     {"Ctrl+x", "a[b]c", "a|c", kDelete, kAll},
     {"Ctrl+y", "a|b", "a|b", kEnded, kAll},

@@ -10,6 +10,7 @@ class desk_of_number : public CKrUnknownImpl<IRegulaDesk> {
  public:
   explicit desk_of_number(int number) : m_number(number) {}
   int showMenu(HostWindow*, const char16_t*, const HostMenu&, int, int, int) override { return m_number; }
+  void search(HostWindow*, const char16_t*, int, int) override {}
 
  private:
   int m_number;
