@@ -6,6 +6,7 @@
 #include "host/exports.h"
 #include "host/prompt.h"
 #include "host/translate.h"
+#include "ui/widgets/open_toolbar.h"
 
 namespace {
 
@@ -23,7 +24,8 @@ int ask_to_save() {
 
 }  // namespace
 
-int wait_for_session(HostEdPrompt& prompt, const smart_edit& session) {
+int wait_for_session(HostEdPrompt& prompt, smart_edit& session) {
+  const auto toolbar = open_toolbar(session);
   for (;;) {
     const int answer = prompt.read_input(host::resource_string(kWaitPrompt), u"", kWaitFlags);
     if (answer == kAnswerEndOfInput) return kSessionDiscarded;

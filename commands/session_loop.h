@@ -9,7 +9,7 @@ enum session_result : int {
   kSessionDiscarded = 2,
 };
 
-/// Waits at the prompt while `session` is edited. A cancel with changes asks whether to save them, and may go
-/// back to the text. The end of the input discards. Returns `kSessionAccepted`, or another number for all
-/// else.
-int wait_for_session(HostEdPrompt& prompt, const smart_edit& session);
+/// Waits at the prompt while `session` is edited, with its toolbar where there are windows. A cancel with
+/// changes asks whether to save them, and may go back to the text. The end of the input discards. Returns
+/// `kSessionAccepted`, or another number for all else.
+int wait_for_session(HostEdPrompt& prompt, smart_edit& session);

@@ -1,0 +1,38 @@
+#include "ui/widgets/color_swatch_icon.h"
+
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
+
+namespace {
+
+class SwatchEngine : public QIconEngine {
+ public:
+  explicit SwatchEngine(const controls::color_swatch& swatch) : m_swatch(swatch) {}
+
+  void paint(QPainter* painter, const QRect& rect, QIcon::Mode, QIcon::State) override {
+    // The icon is 16 pixels wide, the swatch 10.
+    const double margin = rect.width() * 3 / 16.0;
+    const QRectF square = QRectF(rect).adjusted(margin, margin, -margin, -margin);
+    painter->fillRect(square, QColor::fromRgb(m_swatch.rgb));
+    if (m_swatch.half_black)
+      painter->fillRect(QRectF(square.topLeft(), QSizeF(square.width() / 2, square.height())), Qt::black);
+    painter->setPen(QPen(Qt::gray, 1));
+    painter->drawRect(square);
+  }
+  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+    QPixmap drawn(size);
+    drawn.fill(Qt::transparent);
+    QPainter painter(&drawn);
+    paint(&painter, QRect(QPoint(), size), mode, state);
+    return drawn;
+  }
+  QIconEngine* clone() const override { return new SwatchEngine(m_swatch); }
+
+ private:
+  controls::color_swatch m_swatch;
+};
+
+}  // namespace
+
+QIcon swatchIcon(const controls::color_swatch& swatch) { return QIcon(new SwatchEngine(swatch)); }
