@@ -6,7 +6,6 @@
 #include "tests/conformance/operations.h"
 #include "ui/dialogs/CMTextColumnsDlg.h"
 #include "ui/dialogs/CParagraphDlg.h"
-#include "ui/resources/strings.h"
 
 namespace conformance {
 
@@ -57,7 +56,6 @@ CMTextColumnsDlg::field field_of(const std::string& name) {
 }
 
 json columns_dialog(const json& in) {
-  resources::register_strings();
   CMTextColumnsDlg dialog(read_columns(in), plain_lengths());
   json accepted = json::array();
   for (const json& edit : in.at("edits"))
@@ -85,7 +83,6 @@ bool paragraph_step(CParagraphDlg& dialog, const std::string& name, const json& 
 }
 
 json paragraph_dialog(const json& in) {
-  resources::register_strings();
   CParagraphDlg dialog = paragraph_dialog_of(in);
   json shown = json::array(), accepted = json::array(), limits = json::array();
   for (const json& step : in.at("steps")) {

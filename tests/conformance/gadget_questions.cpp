@@ -7,6 +7,7 @@
 #include "micui/sizer.h"
 #include "micui/triangle.h"
 #include "tests/conformance/gadget_subject.h"
+#include "tests/conformance/geom_json.h"
 
 // The steps that only ask.
 
@@ -48,11 +49,7 @@ json cursor(gadget_subject& subject, const json& in) {
 }
 
 json settings(gadget_subject& subject, const json&) {
-  const mtext::column_settings& columns = subject.text().text().info.columns;
-  return {{"width", columns.width},
-          {"gutter", columns.gutter},
-          {"kind", columns.kind},
-          {"heights", columns.heights}};
+  return write_column_settings(subject.text().text().info.columns);
 }
 
 json location(gadget_subject& subject, const json&) {

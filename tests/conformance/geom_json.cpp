@@ -65,6 +65,13 @@ std::unique_ptr<marks::mark> read_plain_mark(const json& in) {
 
 }  // namespace
 
+json write_column_settings(const column_settings& columns) {
+  return {{"width", columns.width},
+          {"gutter", columns.gutter},
+          {"kind", columns.kind},
+          {"heights", columns.heights}};
+}
+
 convert_info read_info(const json& in) {
   convert_info info;
   const json columns = in.value("columns", json::object());

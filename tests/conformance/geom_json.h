@@ -11,6 +11,7 @@ mtext::convert_info read_info(const json& in);
 /// A mark of the class that its `kind` names, owned by the caller.
 mtext::marks::mark* read_mark(const json& in);
 
+json write_column_settings(const mtext::column_settings& columns);
 json write_mark(const mtext::marks::mark& mark);
 json write_marks(const mtext::marks::mark_list& marks);
 json write_geom(const mtext::geom_multitext& text);

@@ -14,6 +14,7 @@ operation_table all_operations() {
   add_session_operations(table);
   add_gadget_operations(table);
   add_dialog_operations(table);
+  add_columns_menu_operations(table);
   add_spin_operations(table);
   add_case_operations(table);
   return table;

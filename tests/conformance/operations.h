@@ -24,6 +24,7 @@ void add_geom_operations(operation_table& table);
 void add_session_operations(operation_table& table);
 void add_gadget_operations(operation_table& table);
 void add_dialog_operations(operation_table& table);
+void add_columns_menu_operations(operation_table& table);
 void add_spin_operations(operation_table& table);
 void add_case_operations(operation_table& table);
 

@@ -3,7 +3,6 @@
 #include "tests/conformance/answer.h"
 #include "tests/conformance/operations.h"
 #include "tests/conformance/session_subject.h"
-#include "ui/resources/strings.h"
 
 namespace conformance {
 namespace {
@@ -24,7 +23,6 @@ json run_step(session_subject& subject, const json& step) {
 }
 
 json run_session(const json& in) {
-  resources::register_strings();
   session_subject subject(in);
   json results = json::array();
   for (const json& step : in.value("steps", json::array())) results.push_back(run_step(subject, step));
