@@ -39,8 +39,8 @@ fs::path sampleCopy() {
 ProgramRun runProgram(const std::string& words, const std::string& input) {
   writeFile(scratch("in"), input);
   const std::string command = "cd " + scratch("").string() +
-                              " && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM " + SCRIBE_PROGRAM +
-                              " " + words + " <in >out 2>err";
+                              " && env -u DISPLAY -u WAYLAND_DISPLAY -u QT_QPA_PLATFORM LC_ALL=C.UTF-8 " +
+                              SCRIBE_PROGRAM + " " + words + " <in >out 2>err";
   const int status = std::system(command.c_str());
   return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, contentOf(scratch("out")), contentOf(scratch("err"))};
 }
