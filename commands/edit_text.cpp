@@ -7,6 +7,7 @@
 #include "host/document.h"
 #include "host/prompt.h"
 #include "host/translate.h"
+#include "od/db/OdDbAttribute.h"
 #include "od/db/OdDbAttributeDefinition.h"
 
 namespace {
@@ -15,6 +16,12 @@ constexpr int kNoEntity = 1028;
 constexpr int kNoText = 1029;
 constexpr int kTypeInPlace = 1030;
 constexpr unsigned kTypeFlags = kReadOnlyWaits | kReadMayBeEmpty | kReadWholeLine;
+
+/// A text of one line; a session of one line would take the others from an attribute of several.
+OdDbTextPtr single_line(const OdDbEntityPtr& entity) {
+  const auto attribute = odCast<OdDbAttribute>(entity);
+  return attribute && attribute->isMTextAttribute() ? OdDbTextPtr() : odCast<OdDbText>(entity);
+}
 
 }  // namespace
 
@@ -34,7 +41,7 @@ void edit_any_text(HostDocument& document, const OdDbObjectId& id,
   if (!entity) return document.prompt().refuse(host::resource_string(kNoEntity));
   if (is_on_locked_layer(id)) return document.prompt().refuse(Supp_Translate(u"Layer locked"));
   if (odCast<OdDbAttributeDefinition>(entity)) return show_attribute_dialog(id);
-  if (const auto line = odCast<OdDbText>(entity)) {
+  if (const auto line = single_line(entity)) {
     editText(line, document);
   } else if (odCast<OdDbMText>(entity)) {
     editMTextById(id, document, pressed);

@@ -1,5 +1,6 @@
 #include "od/db/OdDbAttribute.h"
 
+#include "od/db/OdDbDictionary.h"
 #include "od/db/new_record.h"
 
 ODRX_DEFINE_MEMBERS(OdDbAttribute, OdDbText, "ATTRIB")
@@ -36,5 +37,13 @@ bool OdDbAttribute::isInvisible() const { return groups(kAttribute).flag(70, kIn
 bool OdDbAttribute::isConstant() const { return groups(kAttribute).flag(70, kConstant); }
 
 int OdDbAttribute::fieldLength() const { return groups(kAttribute).integer(73, 0); }
+
+bool OdDbAttribute::isMTextAttribute() const {
+  if (record().embedded_object()) return true;
+  // Older files keep it in the extension dictionary.
+  const OdDbObjectId id = extensionDictionary();
+  const auto dictionary = odCast<OdDbDictionary>(id ? id.openObject() : OdDbObjectPtr());
+  return dictionary && !dictionary->getAt(u"ACAD_MLATT").isNull();
+}
 
 OdString OdDbAttribute::shownText() const { return isInvisible() ? OdString() : textString(); }

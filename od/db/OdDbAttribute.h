@@ -15,6 +15,9 @@ class OdDbAttribute : public OdDbText {
   bool isInvisible() const;
   bool isConstant() const;
   int fieldLength() const;
+  /// True for a text of several lines, which the file keeps beside this one's string. What is shown and
+  /// edited here is the string alone.
+  bool isMTextAttribute() const;
 
  protected:
   OdString shownText() const override;

@@ -92,3 +92,19 @@ TEST_F(AttributeEdit, a_double_click_on_it_edits_it_and_ends) {
   EXPECT_EQ(text(), OdString(u"new"));
   EXPECT_EQ(application.document().prompt().refusals(), 1);  // at the command prompt again
 }
+
+TEST(AttributeEditOfSeveralLines, is_refused_so_that_no_line_is_lost) {
+  std::string drawing = kDrawing;
+  drawing.replace(drawing.find("70 0 0 SEQEND"), 4,
+                  "70 0 101 Embedded~Object 10 200.0 20 300.0 30 0.0 1 old\\Ptwo");
+  std::string bytes = lines(drawing);
+  std::replace(bytes.begin(), bytes.end(), '~', ' ');
+  resources::register_strings();
+  const OdDbDatabasePtr database = OdDbDatabase::readBytes(bytes, "insert");
+  WindowlessApplication application{database};
+  application.input().click({203, 303, 0});
+  application.input().cancel();
+  OdSmartPtr<ICmdProcess>(new CTextEditCmd, kOdRxObjAttach)->run();
+  EXPECT_EQ(application.document().prompt().refusals(), 1);
+  EXPECT_EQ(database->writeBytes(), bytes);
+}
