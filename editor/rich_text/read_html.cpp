@@ -184,12 +184,23 @@ class callbacks {
   builder m_builder;
 };
 
+/// Whether something in it begins as an element does. What other programs call HTML has elements; bytes that
+/// happen to lie there have none.
+bool has_elements(std::u16string_view source) {
+  for (std::size_t at = source.find(u'<'); at != source.npos; at = source.find(u'<', at + 1)) {
+    const char16_t next = at + 1 < source.size() ? source[at + 1] : u' ';
+    if ((next >= u'a' && next <= u'z') || (next >= u'A' && next <= u'Z') || next == u'/' || next == u'!')
+      return true;
+  }
+  return false;
+}
+
 }  // namespace
 
 text read_html(std::u16string_view source) {
   // A null would end the input for the parser.
   const std::u16string_view whole = source.substr(0, std::min(source.size(), source.find(u'\0')));
-  if (whole.size() > kMostUnits) return {};
+  if (whole.size() > kMostUnits || !has_elements(whole)) return {};
   return callbacks().read(odToUtf8(whole));
 }
 

@@ -6,7 +6,7 @@ namespace rich {
 
 /// Reads an HTML document or a piece of one: paragraphs, line breaks, lists, and what `style` holds, from
 /// elements and from their `style` attributes. Scripts, style sheets and all that is loaded from elsewhere
-/// are left out. Never fails; an input that holds no characters gives none.
+/// are left out. Never fails; an input without elements, or without characters, gives no characters.
 text read_html(std::u16string_view source);
 
 }  // namespace rich

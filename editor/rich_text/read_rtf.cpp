@@ -116,8 +116,7 @@ class builder {
     if (word == u"bin") return m_tokens.skip(static_cast<std::size_t>(std::max(0, token.number.value_or(0))));
     if (word == u"u") return put_unicode(token.number.value_or(0));
     if (word == u"uc") in().skip_behind_unicode = std::clamp(token.number.value_or(1), 0, 100);
-    if (word == u"ansicpg")
-      m_page = dxf::find_code_page("ANSI_" + std::to_string(token.number.value_or(kUsualCodePage)));
+    if (word == u"ansicpg") return choose_page(token.number.value_or(kUsualCodePage));
     if (word == u"par" || word == u"sect" || word == u"page" || word == u"row") return end_paragraph();
     if (word == u"cell") return put(u'\t');
     if (in().into == destination::colors) return add_channel(word, token.number.value_or(0));
@@ -164,12 +163,18 @@ class builder {
     m_to_skip = in().skip_behind_unicode;
   }
 
+  /// The head of a text tells its code page, once: making one takes time.
+  void choose_page(int number) {
+    if (!m_page) m_page = dxf::find_code_page("ANSI_" + std::to_string(number));
+  }
+
   /// Whether the next character only stands for one that was given by its number.
   bool is_skipped() { return m_to_skip > 0 && m_to_skip-- > 0; }
 
   void put_bytes() {
     if (m_bytes.empty()) return;
     std::u16string characters;
+    choose_page(kUsualCodePage);
     m_page->decode(m_bytes, characters);
     m_bytes.clear();
     for (const char16_t each : characters) put(each >= 0xDC80 && each <= 0xDCFF ? u'?' : each);
@@ -215,8 +220,8 @@ class builder {
   std::vector<std::uint32_t> m_colors;
   std::uint32_t m_color = 0;
   std::size_t m_too_deep = 0;
-  std::string m_bytes;  ///< in the code page, not yet characters
-  std::shared_ptr<const dxf::CodePage> m_page = dxf::find_code_page("ANSI_1252");
+  std::string m_bytes;                          ///< in the code page, not yet characters
+  std::shared_ptr<const dxf::CodePage> m_page;  ///< null until it is needed
   int m_to_skip = 0;
 };
 

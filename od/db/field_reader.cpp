@@ -38,8 +38,7 @@ OdDbFieldPtr fieldOf(const dxf::Record& record) {
   const OdString code = odFieldCodeInMemory(codeOf(record, groups.range()), handlesOf(record, 331));
   auto field = odNew<OdDbField>(groups.string(1), code);
   const int status = groups.integer(95, OdDbField::kSuccess);
-  field->setEvaluation({}, evaluatedTextOf(record, groups.range()),
-                       static_cast<OdDbField::EvaluationStatus>(status));
+  field->setEvaluation({}, odFieldShown(record), static_cast<OdDbField::EvaluationStatus>(status));
   field->setEvaluationOption(groups.integer(91, OdDbField::kAutomatic));
   field->setFileHandle(record.handle());
   return field;
@@ -50,6 +49,14 @@ OdDbFieldPtr fieldOf(const dxf::Record& record) {
 const OdDbSubclass& odFieldSubclass() {
   static const OdDbSubclass part{"AcDbField", {}};
   return part;
+}
+
+/// A field without a character could not be told from none in a text.
+OdString odFieldShown(const dxf::Record& record) {
+  const OdDbGroups groups(record, odFieldSubclass());
+  const OdString text = evaluatedTextOf(record, groups.range());
+  const bool isContainer = groups.string(1) == OdString(u"_text");
+  return text.isEmpty() && !isContainer ? OdString(OdDbField::kNothingShown) : text;
 }
 
 std::vector<dxf::Handle> odFieldChildren(const dxf::Record& record) { return handlesOf(record, 360); }

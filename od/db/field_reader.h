@@ -19,5 +19,8 @@ bool odFieldIsStale(const dxf::Record& record, const OdString& hostText);
 /// The sum that files keep of a text: each unit times its place, counted from 1.
 double odTextChecksum(std::u16string_view text);
 
+/// What the field of a FIELD record shows; "----" for one, other than a container, that shows nothing.
+OdString odFieldShown(const dxf::Record& record);
+
 /// Handles of the children of a FIELD, as they stand in the record.
 std::vector<dxf::Handle> odFieldChildren(const dxf::Record& record);

@@ -165,9 +165,7 @@ class FieldWriter {
     FieldGroups groups(*item.stub->record, *item.field);
     if (item.whole) return groups.writeWhole(placeChildren(item), m_checksum);
     for (int i = 0; i < item.field->childCount(); ++i) placeChild(*item.stub, *item.field->getChild(i));
-    const OdDbFieldPtr standing = odReadField(m_drawing, *item.stub);
-    if (standing->getFieldCode(OdDbField::kEvaluatedText) !=
-        item.field->getFieldCode(OdDbField::kEvaluatedText))
+    if (odFieldShown(*item.stub->record) != item.field->getFieldCode(OdDbField::kEvaluatedText))
       groups.writeEvaluation();
   }
 

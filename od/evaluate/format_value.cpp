@@ -4,10 +4,10 @@
 #include "od/evaluate/format_number.h"
 #include "od/evaluate/format_options.h"
 #include "od/evaluate/format_text.h"
+#include "od/field/OdDbField.h"
 
 namespace {
 
-constexpr std::u16string_view kNothing = u"----";
 constexpr std::u16string_view kIsoDate = u"yyyy-MM-dd";
 
 /// Writes a value of any kind.
@@ -58,5 +58,5 @@ struct Writer {
 OdString odFormatFieldValue(const OdFieldValue& value, std::u16string_view format,
                             const OdFieldUnits& units) {
   const OdString text(std::visit(Writer{format, units}, value));
-  return text.isEmpty() ? OdString(kNothing) : text;
+  return text.isEmpty() ? OdString(OdDbField::kNothingShown) : text;
 }

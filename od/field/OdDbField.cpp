@@ -7,12 +7,6 @@
 
 ODRX_DEFINE_MEMBERS(OdDbField, OdRxObject, u"FIELD")
 
-namespace {
-
-constexpr std::u16string_view kNeverEvaluated = u"----";
-
-}  // namespace
-
 /// The children of children end one after the other, or a deep field would end on the stack.
 OdDbField::~OdDbField() {
   std::vector<OdDbFieldPtr> ending = std::move(m_children);
@@ -28,8 +22,7 @@ OdDbField::~OdDbField() {
 OdDbFieldPtr OdDbField::createFromCode(std::u16string_view code) { return field_code::read(code); }
 
 OdString OdDbField::getFieldCode(int flags) const {
-  if (flags == kEvaluatedText)
-    return m_evaluated.isEmpty() && !isContainer() ? OdString(kNeverEvaluated) : m_evaluated;
+  if (flags == kEvaluatedText) return m_evaluated;
   return flags == kAddMarkers ? OdString(field_code::expanded(*this)) : m_code;
 }
 

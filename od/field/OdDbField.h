@@ -16,10 +16,10 @@ class SCRIBE_EXPORT OdDbField : public OdRxObject {
  public:
   /// What `getFieldCode` gives, and how `setFieldCode` reads.
   enum CodeFlag {
-    kFieldCode = 0,      ///< the code as it is kept
-    kEvaluatedText = 2,  ///< the text of the last evaluation
-    kAddMarkers = 16,    ///< the code between "%<" and ">%" with the codes of fields within it in their
-                       ///< markers; for a container without a marker around the whole
+    kFieldCode = 0,         ///< the code as it is kept
+    kEvaluatedText = 2,     ///< the text of the last evaluation
+    kAddMarkers = 16,       ///< the code between "%<" and ">%" with the codes of fields within it in their
+                            ///< markers; for a container without a marker around the whole
     kPreserveFields = 128,  ///< the children that are given stay what they are
     kTextField = 256        ///< the code is the text of a host: the field becomes a container
   };
@@ -50,6 +50,9 @@ class SCRIBE_EXPORT OdDbField : public OdRxObject {
     kSyntaxError = 8,
     kInvalidCode = 16
   };
+
+  /// What a field shows that nobody evaluated, or whose value is empty.
+  static constexpr const char16_t* kNothingShown = u"----";
 
   OdDbField() = default;
   ~OdDbField() override;
@@ -90,7 +93,7 @@ class SCRIBE_EXPORT OdDbField : public OdRxObject {
  private:
   OdString m_evaluator;
   OdString m_code;
-  OdString m_evaluated;
+  OdString m_evaluated = kNothingShown;
   OdFieldValue m_value;
   std::vector<OdSmartPtr<OdDbField>> m_children;
   std::uint64_t m_fileHandle = 0;

@@ -4,8 +4,9 @@
 
 namespace {
 
+constexpr std::size_t kLongestNumber = 20;
+
 std::optional<std::uint64_t> numberOf(std::u16string_view text) {
-  constexpr std::size_t kLongestNumber = 20;
   if (text.empty() || text.size() > kLongestNumber) return {};
   const std::string digits(text.begin(), text.end());
   std::uint64_t value = 0;
@@ -21,10 +22,11 @@ std::optional<OdFieldReference> odFindReference(std::u16string_view code, std::u
   const std::u16string opening = std::u16string(kOdMarkerBegin).append(name).append(u" ");
   for (std::size_t at = from; (at = code.find(opening, at)) != code.npos; at += opening.size()) {
     const std::size_t digits = at + opening.size();
-    const std::size_t end = code.find(kOdMarkerEnd, digits);
-    if (end == code.npos) return {};
-    if (const auto number = numberOf(code.substr(digits, end - digits)))
-      return OdFieldReference{at, end + kOdMarkerEnd.size(), *number};
+    // No further than a number can reach, or many beginnings without an end would each search all the rest.
+    const std::u16string_view near = code.substr(digits, kLongestNumber + kOdMarkerEnd.size());
+    const std::size_t length = near.find(kOdMarkerEnd);
+    const auto number = length == near.npos ? std::nullopt : numberOf(near.substr(0, length));
+    if (number) return OdFieldReference{at, digits + length + kOdMarkerEnd.size(), *number};
   }
   return {};
 }

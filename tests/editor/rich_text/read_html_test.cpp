@@ -45,7 +45,7 @@ TEST(ReadHtml, takes_paragraphs_and_line_breaks) {
 TEST(ReadHtml, joins_blanks_as_a_browser_does) {
   EXPECT_EQ(read(u"  a  \n b <b> c</b> d <p>  e</p>"), "a b b[c] d¶e");
   EXPECT_EQ(read(u"<pre>a  b\nc</pre>"), "a  b\nc");
-  EXPECT_EQ(read(u"a&nbsp;&nbsp;b"), "a\u00A0\u00A0b");
+  EXPECT_EQ(read(u"<p>a&nbsp;&nbsp;b"), "a\u00A0\u00A0b");
 }
 
 TEST(ReadHtml, takes_lists_with_their_labels) {
@@ -60,8 +60,8 @@ TEST(ReadHtml, takes_raised_and_lowered_characters) {
 }
 
 TEST(ReadHtml, takes_characters_by_name_and_by_number) {
-  EXPECT_EQ(read(u"&lt;&amp;&gt;&eacute;&#8364;&#x2300;"), "<&>é€⌀");
-  EXPECT_EQ(read(u"Дом 用"), "Дом 用");
+  EXPECT_EQ(read(u"<p>&lt;&amp;&gt;&eacute;&#8364;&#x2300;"), "<&>é€⌀");
+  EXPECT_EQ(read(u"<p>Дом 用"), "Дом 用");
 }
 
 TEST(ReadHtml, leaves_out_what_is_not_shown_or_lies_elsewhere) {
@@ -83,6 +83,11 @@ TEST(ReadHtml, of_nothing_or_of_garbage_gives_no_characters_or_those_that_are_th
   EXPECT_TRUE(rich::read_html(u"<p><b>").empty());
   EXPECT_TRUE(rich::read_html(std::u16string_view(u"\0<p>a", 5)).empty());
   EXPECT_EQ(read(u"</b></p>a<<b"), "a<");
+}
+
+TEST(ReadHtml, without_an_element_is_none) {
+  for (const auto* garbage : {u"text", u"a < b", u"\xFF\xFE garbage \x80", u"<", u"<3"})
+    EXPECT_TRUE(rich::read_html(garbage).empty());
 }
 
 TEST(ReadHtml, of_a_million_elements_in_each_other_ends_and_costs_no_stack) {

@@ -64,3 +64,10 @@ TEST(ReadRtf, of_a_million_groups_in_each_other_leaves_out_the_deep_ones_and_goe
 TEST(ReadRtf, that_is_too_long_is_not_read) {
   EXPECT_TRUE(rich::read_rtf(u"{\\rtf1 " + std::u16string(rich::kMostUnits, u'a')).empty());
 }
+
+TEST(ReadRtf, takes_its_code_page_once) {
+  EXPECT_EQ(read(u"{\\rtf1\\ansicpg1251\\ansicpg1252 \\'c4}"), "Д");
+  std::u16string many = u"{\\rtf1";
+  for (int i = 0; i < 100'000; ++i) many += i % 2 == 0 ? u"\\ansicpg932" : u"\\ansicpg1251";
+  EXPECT_EQ(read(many + u" a}"), "a");
+}

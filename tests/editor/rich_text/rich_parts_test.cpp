@@ -29,8 +29,8 @@ TEST(RichParts, become_codes_of_what_codes_can_hold) {
   EXPECT_EQ(codes(u"a <b>b</b>"), "a {\\f|b1|i0|c0|p0;b}");
   EXPECT_EQ(codes(u"<u>a</u>"), "{\\La}");
   EXPECT_EQ(codes(u"a<p>b<br>c"), "a\\Pb\nc");
-  EXPECT_EQ(codes(u"{\\x}"), "\\{\\\\x\\}");
-  EXPECT_EQ(codes(u"a&nbsp;b"), "a\\~b");
+  EXPECT_EQ(codes(u"<p>{\\x}"), "\\{\\\\x\\}");
+  EXPECT_EQ(codes(u"<p>a&nbsp;b"), "a\\~b");
 }
 
 TEST(RichParts, have_sizes_as_ratios_of_the_usual_one) {

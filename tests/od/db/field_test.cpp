@@ -98,3 +98,9 @@ TEST(Field, of_a_drawing_of_another_program_names_the_file) {
   }
   if (!found) std::cout << "no drawing with fields of another program here\n";
 }
+
+TEST(Field, that_shows_nothing_shows_four_dashes_so_that_it_is_not_lost_in_a_text) {
+  const OdDbDatabasePtr database = OdDbDatabase::readBytes(textWithField("####"), "field");
+  const auto field = odCast<OdDbField>(onlyText(*database)->getField(u"TEXT"));
+  EXPECT_EQ(field->getChild(0)->getFieldCode(OdDbField::kEvaluatedText), OdString(u"----"));
+}

@@ -92,3 +92,12 @@ TEST(OdDbField, that_nobody_evaluated_shows_four_dashes) {
   EXPECT_EQ(OdDbField::createFromCode(u"\\AcVar Date")->getFieldCode(OdDbField::kEvaluatedText),
             OdString(u"----"));
 }
+
+TEST(OdDbField, a_hundred_thousand_references_without_an_end_are_read_in_one_go) {
+  std::u16string code;
+  for (int i = 0; i < 100'000; ++i) code += u"%<\\_FldIdx ";
+  code += u">%";
+  OdDbFieldPtr container = odNew<OdDbField>();
+  container->setFieldCode(code, OdDbField::kTextField);
+  EXPECT_EQ(container->getFieldCode(OdDbField::kAddMarkers), OdString(code));
+}

@@ -90,8 +90,8 @@ with Desk(options.program, source, options.folder) as first:
         give(second, b"\xff\x00\xfe garbage \x80", "text/html")
         open_text(second)
         second.key("Next", "ctrl+v")
-        second.type(".")
-        end_text(second, target)
+        second.type("!")
+        assert end_text(second, target) == [pasted[0] + "!"], contents(target)
 
         give(second, b"Dropped", "UTF8_STRING")
         empty = second.settle()
