@@ -184,3 +184,20 @@ TEST(NewEntityForm, a_polyline_keeps_its_vertices_and_bulges) {
   EXPECT_TRUE(read->isClosed());
   EXPECT_THROW(read->getPointAt(3), OdError_InvalidIndex);
 }
+
+TEST(Clone, of_an_entity_changes_alone_and_leaves_the_drawing_as_it_was) {
+  const OdDbDatabasePtr database = OdDbDatabase::createEmpty();
+  auto text = odNew<OdDbText>();
+  text->setDatabaseDefaults(database.get());
+  text->setTextString(u"one");
+  text->setHorizontalMode(OdDb::kTextRight);
+  odOpen<OdDbBlockTableRecord>(database->getModelSpaceId(), OdDb::kForWrite)->appendOdDbEntity(text.get());
+  const std::string before = database->writeBytes();
+  const auto copy = odCastOrThrow<OdDbText>(text->clone());
+  EXPECT_FALSE(copy->isDBRO());
+  EXPECT_EQ(copy->database(), database.get());
+  EXPECT_EQ(copy->horizontalMode(), OdDb::kTextRight);
+  copy->setTextString(u"two");
+  EXPECT_EQ(text->textString(), OdString(u"one"));
+  EXPECT_EQ(database->writeBytes(), before);
+}
