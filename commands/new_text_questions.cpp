@@ -4,7 +4,6 @@
 #include <cmath>
 #include <optional>
 
-#include "commands/filled_text.h"
 #include "commands/justify_rows.h"
 #include "commands/new_text.h"
 #include "commands/text_data.h"
@@ -19,6 +18,7 @@
 #include "host/translate.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
+#include "ui/resources/message_format.h"
 
 namespace {
 
@@ -83,9 +83,8 @@ class Questions {
   void tell_status() {
     const auto style =
         odCastOrThrow<OdDbTextStyleTableRecord>(m_document.database().getTEXTSTYLE().openObject());
-    m_prompt.message(filled_text(
-        host::resource_string(kStatus),
-        {style->getName().str(), hostdbRToS(m_settings.height), justification_name(m_settings.justify)}));
+    m_prompt.message(resources::format_string(kStatus, {style->getName().str(), hostdbRToS(m_settings.height),
+                                                        justification_name(m_settings.justify)}));
   }
 
   std::u16string origin_words() const {
@@ -142,12 +141,12 @@ class Questions {
         justify_rows()[static_cast<std::size_t>(m_settings.justify)].horizontal == OdDb::kTextAlign;
     if (is_aligned || fixed_height(m_document) != 0) return true;
     double height = 0;
-    const int answer = m_prompt.getDistance(
-        {.prompt = filled_text(host::resource_string(kHeight), {hostdbRToS(m_settings.height)}),
-         .base_point = m_settings.origin,
-         .rubber_line = true,
-         .may_be_empty = true},
-        height);
+    const int answer =
+        m_prompt.getDistance({.prompt = resources::format_string(kHeight, {hostdbRToS(m_settings.height)}),
+                              .base_point = m_settings.origin,
+                              .rubber_line = true,
+                              .may_be_empty = true},
+                             height);
     if (answer == kAnswerValue && height > kNone) m_settings.height = height;
     keep_height(m_document, m_settings.height);
     return answer == kAnswerValue || answer == kAnswerNothing;
@@ -155,13 +154,13 @@ class Questions {
 
   bool ask_rotation() {
     if (m_settings.has_two_points()) return true;
-    const int answer = m_prompt.getAngle(
-        {.prompt = filled_text(host::resource_string(kRotation), {hostdbAngToS(m_settings.rotation)}),
-         .base_point = m_settings.origin,
-         .normal = m_settings.normal,
-         .rubber_line = true,
-         .may_be_empty = true},
-        m_settings.rotation);
+    const int answer =
+        m_prompt.getAngle({.prompt = resources::format_string(kRotation, {hostdbAngToS(m_settings.rotation)}),
+                           .base_point = m_settings.origin,
+                           .normal = m_settings.normal,
+                           .rubber_line = true,
+                           .may_be_empty = true},
+                          m_settings.rotation);
     return answer == kAnswerValue || answer == kAnswerNothing;
   }
 

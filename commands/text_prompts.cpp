@@ -1,9 +1,9 @@
 #include "commands/text_prompts.h"
 
-#include "commands/filled_text.h"
 #include "host/keyword_list.h"
 #include "host/prompt.h"
 #include "host/translate.h"
+#include "ui/resources/message_format.h"
 
 namespace {
 
@@ -16,7 +16,7 @@ HostKeywordList justifications() { return HostKeywordList(host::resource_string(
 
 int ask_justification(HostEdPrompt& prompt) {
   return prompt.getKeyword(
-      {.prompt = filled_text(host::resource_string(kSelectJustification), {justifications().shown()}),
+      {.prompt = resources::format_string(kSelectJustification, {justifications().shown()}),
        .keywords = host::resource_string(kJustifications),
        .may_be_empty = true});
 }

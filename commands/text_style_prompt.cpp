@@ -2,7 +2,6 @@
 
 #include <cstdio>
 
-#include "commands/filled_text.h"
 #include "host/document.h"
 #include "host/prompt.h"
 #include "host/translate.h"
@@ -10,6 +9,7 @@
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbSymbolTable.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
+#include "ui/resources/message_format.h"
 
 namespace {
 
@@ -71,9 +71,8 @@ StylePtr find_style(OdDbDatabase& database, const std::u16string& name) {
 
 std::u16string question(OdDbDatabase& database) {
   const auto current = odCastOrThrow<OdDbTextStyleTableRecord>(database.getTEXTSTYLE().openObject());
-  const std::u16string asked =
-      filled_text(host::resource_string(kTypeStyle), {host::resource_string(kListWord)});
-  return filled_text(u"%s <%s>:", {asked, current->getName().str()});
+  const std::u16string asked = resources::format_string(kTypeStyle, {host::resource_string(kListWord)});
+  return resources::format_message(u"%s <%s>:", {asked, current->getName().str()});
 }
 
 }  // namespace
