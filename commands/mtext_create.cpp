@@ -85,6 +85,7 @@ bool edit_new(HostDocument& document, const corners& box, new_mtext_outcome& out
   session.beginMTextEdit(outcome.text, {.caret_at = box.first, .is_new = true});
   const int result = wait_for_session(document.prompt(), session);
   const bool accepted = session.finishEdit(result == kSessionAccepted, /*force=*/session.isCompact());
+  outcome.field = session.writtenField();
   outcome.end_point = session.exitPoint().value_or(box.opposite);
   outcome.status = accepted ? kCommandDone : kCommandCancelled;
   return accepted;

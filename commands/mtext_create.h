@@ -4,6 +4,7 @@
 
 #include "commands/document_command.h"
 #include "od/db/OdDbMText.h"
+#include "od/field/OdDbField.h"
 #include "od/ge/OdGePoint2d.h"
 
 class HostDocument;
@@ -19,6 +20,7 @@ struct new_mtext_request {
 /// What came of it.
 struct new_mtext_outcome {
   OdDbMTextPtr text{};      ///< not in the database; null without a text
+  OdDbFieldPtr field{};     ///< of the text, to be set once it is in the database; null without fields
   OdGePoint3d end_point{};  ///< where the user pressed outside the text, else the opposite corner
   int status = kCommandDone;
 };

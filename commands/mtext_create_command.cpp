@@ -9,7 +9,9 @@ int CMTCreateCmd::runIn(HostDocument& document) {
   if (newMText(document, {}, outcome)) {
     const OdDbObjectId target = editing::current_space(document.database());
     const auto space = odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
-    hostEntUpd(space->appendOdDbEntity(outcome.text.get()));
+    const OdDbObjectId made = space->appendOdDbEntity(outcome.text.get());
+    if (outcome.field) outcome.text->setField(u"TEXT", *outcome.field);
+    hostEntUpd(made);
   }
   return outcome.status;
 }

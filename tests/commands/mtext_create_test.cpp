@@ -2,12 +2,14 @@
 
 #include "commands/mtext_create.h"
 #include "commands/preview_tracker.h"
+#include "host/field_service.h"
 #include "host/key_code.h"
 #include "od/db/OdDbDrawing.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
 #include "od/dxf/header_variables.h"
 #include "od/gi/OdGsView.h"
 #include "tests/commands/command_run.h"
+#include "ui/resources/menus.h"
 
 namespace {
 
@@ -34,6 +36,27 @@ TEST(MTextCreate, makes_a_text_of_two_corners_and_what_is_typed) {
   EXPECT_DOUBLE_EQ(text->width(), 40);
   EXPECT_DOUBLE_EQ(text->height(), 15);
   EXPECT_EQ(text->visibility(), OdDb::kVisible);
+}
+
+TEST(MTextCreate, writes_the_fields_of_the_new_text_as_fields) {
+  command_run run;
+  resources::register_menus();
+  HostGivenFields fields;
+  const host::OfferingFields offer(fields);
+  fields.give(u"\\AcVar LUNITS");
+  run.application.input().click({10, 20, 0});
+  run.application.input().click({50, 5, 0});
+  run.type(u"in ");
+  run.application.window().choose(1049);
+  run.application.input().message({.number = WM_RBUTTONUP, .point = {30, 10, 0}});
+  run.key(VK_RETURN, kCtrl);
+  EXPECT_EQ(run.create(), kCommandDone);
+  const auto text = created(run);
+  ASSERT_TRUE(text);
+  EXPECT_EQ(text->contents(), OdString(u"in 2"));
+  const auto field = odCast<OdDbField>(text->getField(u"TEXT"));
+  ASSERT_TRUE(field);
+  EXPECT_EQ(field->getFieldCode(OdDbField::kAddMarkers), OdString(u"in %<\\AcVar LUNITS>%"));
 }
 
 TEST(MTextCreate, the_box_may_be_drawn_in_any_corner_order) {
