@@ -39,12 +39,15 @@ HostBoxAnswer answerOf(int button) {
 int QtEvents::box(int level, std::u16string_view text, HostWindow*, int) {
   const HostBoxText parts = splitBoxText(text);
   QWidget* const dialog = QApplication::activeModalWidget();
-  QMessageBox box(dialog ? dialog : &m_parent);
+  QWidget& below = dialog ? *dialog : m_parent;
+  QMessageBox box(&below);
   box.setTextFormat(Qt::PlainText);
   box.setText(toQt(parts.shown));
   level == kBoxQuestion ? makeQuestion(box) : makeAlert(box);
   if (!parts.help_key.empty()) addButton(box, QMessageBox::Help, Supp_Translate(u"Help"));
   const HostBoxAnswer answered = answerOf(answer(box, parts.help_key));
+  // Not every window manager gives the keys back by itself.
+  below.activateWindow();
   if (answered == kBoxCancel) m_on_cancel();
   return answered;
 }
