@@ -136,7 +136,7 @@ std::string state_of(const ExMTextEditable& text) {
   return out.text() + layout_of(geometry);
 }
 
-void expect_sound(const ExMTextEditable& text) {
+void expect_laid_out(const ExMTextEditable& text) {
   for (const auto& mark : text.text().marks) {
     EXPECT_LE(mark.begin, mark.end);
     EXPECT_LE(mark.end, text.text().parts.size());
@@ -146,6 +146,10 @@ void expect_sound(const ExMTextEditable& text) {
   mtext::geom_multitext fresh = text.text();
   mtext::dispose(fresh);
   EXPECT_EQ(layout_of(text.text()), layout_of(fresh));
+}
+
+void expect_sound(const ExMTextEditable& text) {
+  expect_laid_out(text);
   EXPECT_EQ(contents_of(read_back(text)), contents_of(text.text()));
 }
 
