@@ -39,6 +39,8 @@ const text_justification& justification_at(int index) {
 }
 
 void justify_in_place(OdDbText& text, const text_justification& to) {
+  // Files hold positions that nobody worked out: the alignment point is what counts.
+  text.adjustAlignment();
   const OdGePoint3d before = text.position();
   text.setVerticalMode(to.vertical);
   text.setHorizontalMode(to.horizontal);

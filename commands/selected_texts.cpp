@@ -4,12 +4,13 @@
 #include "host/document.h"
 #include "host/prompt.h"
 #include "host/translate.h"
-#include "od/base/unicode.h"
+#include "ui/resources/message_format.h"
 
 namespace {
 
 constexpr int kSelectTexts = 1069;
 constexpr int kNotTexts = 1070;
+constexpr int kLocked = 1362;
 
 }  // namespace
 
@@ -18,9 +19,7 @@ HostSelectionSet without_locked(const HostSelectionSet& picked, HostEdPrompt& pr
   for (const OdDbObjectId& id : picked.ids())
     if (!is_on_locked_layer(id)) open.add(id);
   const std::size_t locked = picked.ids().size() - open.ids().size();
-  if (locked > 0)
-    prompt.message(Supp_Translate(u"On a locked layer, left out:") + u" " +
-                   odToUtf16(std::to_string(locked)));
+  if (locked > 0) prompt.message(resources::format_string(kLocked, {static_cast<double>(locked)}));
   return open;
 }
 

@@ -1,37 +1,31 @@
 #include "commands/tcase_command.h"
 
-#include <array>
-
 #include "commands/case_of_contents.h"
 #include "commands/selected_texts.h"
 #include "commands/text_codes.h"
 #include "editor/current_space.h"
 #include "host/document.h"
+#include "host/keyword_list.h"
 #include "host/prompt.h"
 #include "host/translate.h"
 #include "mtext/entity/mtext_size_finder.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "ui/dialogs/CCaseDlg.h"
+#include "ui/dialogs/dialog_display.h"
 
 namespace {
 
-/// The modes at the prompt, in the order of `CCaseDlg::kChoices`.
-constexpr std::array<const char16_t*, CCaseDlg::kChoices.size()> kKeywords{u"Sentence", u"Lower", u"Upper",
-                                                                           u"Title", u"tOggle"};
-
-std::u16string keyword_list() {
-  std::u16string list;
-  for (const char16_t* word : kKeywords)
-    list += list.empty() ? std::u16string(word) : u" " + std::u16string(word);
-  return list;
-}
+constexpr int kPrompt = 1340;
+constexpr int kKeywords = 1346;  // in the order of CCaseDlg::kChoices
 
 /// Asks at the prompt; Enter takes the mode that the dialog would show.
 bool ask_at_prompt(HostEdPrompt& prompt, CCaseDlg& dialog) {
-  const std::size_t last = static_cast<std::size_t>(dialog.mode());
-  const int answer = prompt.getKeyword(
-      {.prompt = Supp_Translate(u"Case"), .keywords = keyword_list(), .default_answer = kKeywords.at(last)});
+  const std::u16string keywords = host::resource_string(kKeywords);
+  const auto last = static_cast<std::size_t>(dialog.mode());
+  const int answer = prompt.getKeyword({.prompt = host::resource_string(kPrompt),
+                                        .keywords = keywords,
+                                        .default_answer = HostKeywordList(keywords).name(last)});
   if (answer < 0) return false;
   dialog.check(CCaseDlg::kChoices.at(static_cast<std::size_t>(answer)));
   return true;
@@ -43,10 +37,12 @@ case_mode& last_mode() {
   return mode;
 }
 
-/// Lets the user choose a mode; false for cancel.
+/// Lets the user choose a mode: in the dialog, or at the prompt where nobody can see one. False for cancel.
 bool choose_mode(HostEdPrompt& prompt) {
   CCaseDlg dialog(static_cast<int>(last_mode()));
-  if (!ask_at_prompt(prompt, dialog)) return false;
+  const DialogDisplay* display = dialogs::display();
+  const bool in_window = display && display->canShow();
+  if (!(in_window ? dialog.doModal() : ask_at_prompt(prompt, dialog))) return false;
   last_mode() = static_cast<case_mode>(dialog.mode());
   return true;
 }

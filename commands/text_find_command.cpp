@@ -5,11 +5,13 @@
 #include "commands/show_text.h"
 #include "commands/text_search.h"
 #include "host/document.h"
+#include "host/keyword_list.h"
 #include "host/prompt.h"
 #include "host/selection_set.h"
 #include "host/translate.h"
 #include "od/base/unicode.h"
 #include "od/db/OdDbEntity.h"
+#include "ui/resources/message_format.h"
 
 namespace {
 
@@ -25,10 +27,16 @@ find_settings& last_settings() {
   return settings;
 }
 
-enum find_keyword : int { kNext, kReplace, kAll, kCase, kExpression, kExit };
-constexpr const char16_t* kKeywords = u"Next Replace All Case Expression eXit";
+// Strings.
+constexpr int kFindWhat = 1350, kFind = 1351, kKeywords = 1352, kReplaceWith = 1353;
+constexpr int kMatches = 1354, kReplaced = 1355, kFromTheBeginning = 1356, kNothingToReplace = 1361;
+constexpr int kCaseIgnored = 1357, kCaseCounts = 1358, kRegularExpression = 1359, kPlainWords = 1360;
 
-std::u16string counted(std::size_t number) { return odToUtf16(std::to_string(number)); }
+enum find_keyword : int { kNext, kReplace, kAll, kCase, kExpression, kExit };
+
+std::u16string counted(int message, std::size_t matches, std::size_t texts) {
+  return resources::format_string(message, {static_cast<double>(matches), static_cast<double>(texts)});
+}
 
 /// The dialogue of one run.
 class find_dialogue {
@@ -40,21 +48,27 @@ class find_dialogue {
 
   int run() {
     const int answer =
-        m_prompt.getString({.prompt = Supp_Translate(u"Find what"), .default_answer = m_settings.wanted},
+        m_prompt.getString({.prompt = host::resource_string(kFindWhat), .default_answer = m_settings.wanted},
                            /*whole_line=*/true, m_settings.wanted);
     if (answer != kAnswerValue) return kCommandCancelled;
     if (!look()) return kCommandDone;
     for (;;) {
       show();
-      const int keyword = m_prompt.getKeyword({.prompt = Supp_Translate(u"Find"),
-                                               .keywords = kKeywords,
-                                               .default_answer = m_search.current() ? u"Next" : u"eXit"});
+      const int keyword = askKeyword();
       if (keyword < 0) return kCommandCancelled;
       if (keyword == kExit || !obey(keyword)) return kCommandDone;
     }
   }
 
  private:
+  int askKeyword() {
+    const std::u16string keywords = host::resource_string(kKeywords);
+    const find_keyword usual = m_search.current() ? kNext : kExit;
+    return m_prompt.getKeyword({.prompt = host::resource_string(kFind),
+                                .keywords = keywords,
+                                .default_answer = HostKeywordList(keywords).name(usual)});
+  }
+
   /// Looks for the pattern as it is set now. False when it is none.
   bool look() {
     try {
@@ -63,8 +77,7 @@ class find_dialogue {
       m_prompt.refuse(odToUtf16(error.what()));
       return false;
     }
-    m_prompt.message(Supp_Translate(u"Matches:") + u" " + counted(m_search.matchCount()) + u"; " +
-                     Supp_Translate(u"texts:") + u" " + counted(m_search.textCount()));
+    m_prompt.message(counted(kMatches, m_search.matchCount(), m_search.textCount()));
     return true;
   }
 
@@ -79,7 +92,7 @@ class find_dialogue {
   bool obey(int keyword) {
     switch (keyword) {
       case kNext:
-        if (!m_search.next()) m_prompt.message(Supp_Translate(u"From the beginning."));
+        if (!m_search.next()) m_prompt.message(host::resource_string(kFromTheBeginning));
         return true;
       case kReplace:
         return replace(&find_dialogue::replaceOne);
@@ -87,16 +100,17 @@ class find_dialogue {
         replace(&find_dialogue::replaceEvery);
         return false;
       case kCase:
-        return toggle(u"Case is ignored:", &HostTextPattern::Options::ignores_case);
+        return toggle(&HostTextPattern::Options::ignores_case, kCaseIgnored, kCaseCounts);
       default:
-        return toggle(u"Regular expression:", &HostTextPattern::Options::is_expression);
+        return toggle(&HostTextPattern::Options::is_expression, kRegularExpression, kPlainWords);
     }
   }
 
-  bool toggle(std::u16string_view name, bool HostTextPattern::Options::*option) {
+  /// Turns an option on or off, and tells which; each has a string.
+  bool toggle(bool HostTextPattern::Options::*option, int on, int off) {
     bool& value = m_settings.options.*option;
     value = !value;
-    m_prompt.message(Supp_Translate(name) + u" " + Supp_Translate(value ? u"yes" : u"no"));
+    m_prompt.message(host::resource_string(value ? on : off));
     if (look()) return true;
     // What is no expression is looked for as it stands, as before.
     value = !value;
@@ -106,7 +120,7 @@ class find_dialogue {
   /// Asks for the replacement and replaces. False for cancel.
   bool replace(void (find_dialogue::*how)()) {
     if (!m_search.current()) {
-      m_prompt.refuse(Supp_Translate(u"There is nothing to replace."));
+      m_prompt.refuse(host::resource_string(kNothingToReplace));
       return true;
     }
     if (!askReplacement()) return false;
@@ -122,7 +136,7 @@ class find_dialogue {
   bool askReplacement() {
     if (m_asked) return true;
     const int answer =
-        m_prompt.read_input(Supp_Translate(u"Replace with"), u"",
+        m_prompt.read_input(host::resource_string(kReplaceWith), u"",
                             kReadWholeLine | kReadKeepBlanks | kReadMayBeEmpty, &m_settings.replacement);
     m_asked = answer == kAnswerValue;
     return m_asked;
@@ -133,8 +147,7 @@ class find_dialogue {
   void replaceEvery() {
     const std::size_t matches = m_search.matchCount(), texts = m_search.textCount();
     m_search.replaceAll(m_settings.replacement);
-    m_prompt.message(Supp_Translate(u"Replaced:") + u" " + counted(matches) + u"; " +
-                     Supp_Translate(u"texts:") + u" " + counted(texts));
+    m_prompt.message(counted(kReplaced, matches, texts));
   }
 
   HostDocument& m_document;

@@ -203,6 +203,6 @@ TEST(Text2MText, texts_of_a_locked_layer_stay_as_they_are) {
   run.application.input().click({0.5, 0.5, 0});
   run.application.input().line(u"");
   EXPECT_EQ(run.run<CText2MTextCmd>(), kCommandDone);
-  EXPECT_THAT(run.application.log().lines(), testing::Contains(u"On a locked layer, left out: 1"));
+  EXPECT_THAT(run.application.log().lines(), testing::Contains(u"1 on a locked layer, left out"));
   EXPECT_TRUE(odCast<OdDbText>(run.entities().front().openObject()));
 }

@@ -2,6 +2,8 @@
 
 #include "commands/tcase_command.h"
 #include "tests/commands/command_run.h"
+#include "tests/ui/dialogs/dialog_host.h"
+#include "ui/dialogs/CCaseDlg.h"
 
 namespace {
 
@@ -53,6 +55,39 @@ TEST(TCase, cancel_keeps_the_mode_and_every_text) {
   EXPECT_EQ(run.run<CTCase>(), kCommandCancelled);
   EXPECT_EQ(string_of(id), u"hALL");
   EXPECT_EQ(change_case(run, {10.5, 20.5, 0}, u""), kCommandDone);
+  EXPECT_EQ(string_of(id), u"Hall");
+}
+
+TEST(TCase, the_dialog_is_shown_where_somebody_sees_it) {
+  command_run run;
+  const OdDbObjectId id = run.addLineOfText(u"Hall", {10, 20, 0})->objectId();
+  ScriptedDisplay display;
+  display.on_case = [](CCaseDlg& dialog) {
+    dialog.check(CCaseDlg::kChoices[2]);
+    return true;
+  };
+  run.application.input().click({10.5, 20.5, 0});
+  run.application.input().line(u"");
+  EXPECT_EQ(run.run<CTCase>(), kCommandDone);
+  EXPECT_EQ(string_of(id), u"HALL");
+}
+
+TEST(TCase, cancel_in_the_dialog_keeps_the_remembered_mode) {
+  command_run run;
+  const OdDbObjectId id = run.addLineOfText(u"Hall", {10, 20, 0})->objectId();
+  ScriptedDisplay display;
+  std::vector<int> offered;
+  display.on_case = [&offered](CCaseDlg& dialog) {
+    offered.push_back(dialog.mode());
+    dialog.check(CCaseDlg::kChoices[(dialog.mode() + 1) % 5]);
+    return false;
+  };
+  for (int i = 0; i < 2; ++i) {
+    run.application.input().click({10.5, 20.5, 0});
+    run.application.input().line(u"");
+    EXPECT_EQ(run.run<CTCase>(), kCommandCancelled);
+  }
+  EXPECT_EQ(offered[0], offered[1]);
   EXPECT_EQ(string_of(id), u"Hall");
 }
 

@@ -42,7 +42,7 @@ TEST(TextFind, replaces_all_in_both_kinds_of_text) {
   EXPECT_EQ(find.answer({u"Hall", u"All", u"Room"}), kCommandDone);
   EXPECT_EQ(find.contents(0), u"Room 1");
   EXPECT_EQ(find.contents(1), u"{\\C1;hall} {}and Room");
-  EXPECT_THAT(find.lines(), Contains(u"Replaced: 2; texts: 2"));
+  EXPECT_THAT(find.lines(), Contains(u"2 replaced in 2 texts"));
 }
 
 TEST(TextFind, shows_one_match_after_the_other) {
@@ -54,7 +54,7 @@ TEST(TextFind, shows_one_match_after_the_other) {
 TEST(TextFind, begins_anew_behind_the_last_match) {
   finding find;
   EXPECT_EQ(find.answer({u"Hall", u"Next", u"Next", u"eXit"}), kCommandDone);
-  EXPECT_THAT(find.lines(), Contains(u"From the beginning."));
+  EXPECT_THAT(find.lines(), Contains(u"From the beginning"));
   EXPECT_THAT(find.run.application.document().pickFirst().ids(), ElementsAre(find.texts[0]));
 }
 
@@ -77,7 +77,7 @@ TEST(TextFind, case_may_be_ignored) {
   EXPECT_EQ(find.answer({u"HALL", u"Case", u"All", u"Room"}), kCommandDone);
   EXPECT_EQ(find.contents(1), u"{\\C1;Room} {}and Room");
   find.answer({u"HALL", u"Case", u"eXit"});  // as it was before
-  EXPECT_THAT(find.lines(), Contains(u"Case is ignored: no"));
+  EXPECT_THAT(find.lines(), Contains(u"Case counts"));
 }
 
 TEST(TextFind, an_expression_may_be_looked_for) {
@@ -116,8 +116,8 @@ TEST(TextFind, a_cancel_at_any_prompt_changes_nothing) {
 TEST(TextFind, nothing_found_is_told_and_there_is_nothing_to_replace) {
   finding find;
   EXPECT_EQ(find.answer({u"zebra", u"Replace", u""}), kCommandDone);
-  EXPECT_THAT(find.lines(), Contains(u"Matches: 0; texts: 0"));
-  EXPECT_THAT(find.lines(), Contains(u"There is nothing to replace."));
+  EXPECT_THAT(find.lines(), Contains(u"0 matches in 0 texts"));
+  EXPECT_THAT(find.lines(), Contains(u"There is nothing to replace"));
 }
 
 TEST(TextFind, texts_of_a_locked_layer_are_left_alone) {

@@ -55,6 +55,18 @@ TEST(TJust, every_keyword_and_back_leaves_a_text_where_it_was) {
   }
 }
 
+TEST(TJust, a_position_that_nobody_worked_out_does_not_count) {
+  command_run run;
+  const auto text = run.addLineOfText(u"Hall", {0, 0, 0});
+  text->setHorizontalMode(OdDb::kTextRight);
+  text->setAlignmentPoint({50, 5, 0});
+  OdArray<OdGePoint3d> before, after;
+  text->getBoundingPoints(before);
+  justify_in_place(*text, justification_at(kBottomRight));
+  text->getBoundingPoints(after);
+  EXPECT_TRUE(before[0].isEqualTo(after[0]));
+}
+
 TEST(TJust, the_keyword_table) {
   struct row {
     std::u16string_view keyword;

@@ -1,5 +1,6 @@
 #pragma once
 
+class CCaseDlg;
 class CMTextColumnsDlg;
 class CParagraphDlg;
 class CSymbolDlg;
@@ -9,10 +10,13 @@ class CSymbolDlg;
 class DialogDisplay {
  public:
   virtual ~DialogDisplay() = default;
+  /// Whether there is anybody to show a dialog to: a script has nobody.
+  virtual bool canShow() const { return true; }
   /// Shows a dialog until it is closed. True for OK: the dialog then holds what the user chose.
   virtual bool show(CParagraphDlg& dialog) = 0;
   virtual bool show(CMTextColumnsDlg& dialog) = 0;
   virtual bool show(CSymbolDlg& dialog) = 0;
+  virtual bool show(CCaseDlg& dialog) = 0;
 };
 
 namespace dialogs {

@@ -2,22 +2,28 @@
 
 #include <QApplication>
 
+#include "ui/dialogs/window/case_window.h"
 #include "ui/dialogs/window/columns_window.h"
 #include "ui/dialogs/window/paragraph_window.h"
 #include "ui/dialogs/window/symbol_window.h"
 
 namespace {
 
+bool has_windows() { return qobject_cast<QApplication*>(QCoreApplication::instance()) != nullptr; }
+
 template <class Window, class Dialog>
 bool run(Dialog& dialog) {
-  if (!qobject_cast<QApplication*>(QCoreApplication::instance())) return false;
-  return Window(dialog, QApplication::activeWindow()).exec() == QDialog::Accepted;
+  return has_windows() && Window(dialog, QApplication::activeWindow()).exec() == QDialog::Accepted;
 }
 
 }  // namespace
+
+bool WindowDisplay::canShow() const { return has_windows(); }
 
 bool WindowDisplay::show(CParagraphDlg& dialog) { return run<ParagraphWindow>(dialog); }
 
 bool WindowDisplay::show(CMTextColumnsDlg& dialog) { return run<ColumnsWindow>(dialog); }
 
 bool WindowDisplay::show(CSymbolDlg& dialog) { return run<SymbolWindow>(dialog); }
+
+bool WindowDisplay::show(CCaseDlg& dialog) { return run<CaseWindow>(dialog); }

@@ -6,7 +6,9 @@
 /// cancelled at once.
 class WindowDisplay : public DialogDisplay {
  public:
+  bool canShow() const override;
   bool show(CParagraphDlg& dialog) override;
   bool show(CMTextColumnsDlg& dialog) override;
   bool show(CSymbolDlg& dialog) override;
+  bool show(CCaseDlg& dialog) override;
 };

@@ -14,6 +14,7 @@
 #include "ui/dialogs/CParagraphDlg.h"
 #include "ui/dialogs/CSymbolDlg.h"
 #include "ui/dialogs/recent_symbols.h"
+#include "ui/dialogs/window/case_window.h"
 #include "ui/dialogs/window/character_grid.h"
 #include "ui/dialogs/window/columns_window.h"
 #include "ui/dialogs/window/paragraph_window.h"
@@ -34,11 +35,15 @@ struct EveryWindow {
                             .total = 12345.6789,
                             .text_height = 2.5}};
   CSymbolDlg symbol;
+  CCaseDlg letter_case{2};
   ShownWindow<ParagraphWindow> paragraph_window{paragraph};
   ShownWindow<ColumnsWindow> columns_window{columns};
   ShownWindow<SymbolWindow> symbol_window{symbol};
-  std::map<std::string, QDialog*> windows{
-      {"paragraph", &paragraph_window}, {"columns", &columns_window}, {"symbol", &symbol_window}};
+  ShownWindow<CaseWindow> case_window{letter_case};
+  std::map<std::string, QDialog*> windows{{"paragraph", &paragraph_window},
+                                          {"columns", &columns_window},
+                                          {"symbol", &symbol_window},
+                                          {"case", &case_window}};
 
   explicit EveryWindow(IProfile& profile) : symbol({.font = u"Liberation Serif"}, &profile) {}
 };
