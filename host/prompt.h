@@ -21,11 +21,12 @@ enum HostAnswer : int {
 
 /// Bits of the flag word of `read_input`.
 enum HostReadFlags : unsigned {
-  kReadWholeLine = 1,    ///< blanks belong to the text; they never end it
-  kReadKeepBlanks = 2,   ///< blanks at the ends stay
-  kReadMayBeEmpty = 4,   ///< an empty line is a value
-  kReadOnlyWaits = 128,  ///< nothing is read: an empty line ends the wait, typed text is refused
-  kReadCommand = 256,    ///< the command line's own prompt: the end of the input leaves nothing unanswered
+  kReadWholeLine = 1,      ///< blanks belong to the text; they never end it
+  kReadKeepBlanks = 2,     ///< blanks at the ends stay
+  kReadMayBeEmpty = 4,     ///< an empty line is a value
+  kReadOnlyWaits = 128,    ///< nothing is read: an empty line ends the wait, typed text is refused
+  kReadCommand = 256,      ///< the command line's own prompt: the end of the input leaves nothing unanswered
+  kReadBlanksAlone = 512,  ///< with `kReadKeepBlanks`: a line of blanks alone is no empty one
 };
 
 /// Mode flags of `select`; bits without a name mean nothing here.

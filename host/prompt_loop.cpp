@@ -49,7 +49,7 @@ std::optional<int> HostPromptLoop::answerTo(const HostInput& input, const HostRe
 
 std::optional<int> HostPromptLoop::answerToLine(const std::u16string& line, const HostReading& reading) {
   const std::u16string_view typed = host::without_outer_blanks(line);
-  if (typed.empty()) return answerToEmptyLine(reading);
+  if (line.empty() || (typed.empty() && !reading.takes_blanks)) return answerToEmptyLine(reading);
   if (const auto keyword = reading.keywords.find(typed)) return keyword;
   if (reading.take_line(line)) return kAnswerValue;
   askAgain(reading);

@@ -1,9 +1,11 @@
 #pragma once
 
+#include <functional>
 #include <vector>
 
 #include "host/input.h"
 #include "host/prompt.h"
+#include "host/selection_set.h"
 #include "od/db/OdDbObjectId.h"
 
 class HostCommandLine;
@@ -33,6 +35,13 @@ class HostPromptLoop : public HostEdPrompt {
   void message(std::u16string_view text) override;
   void refuse(std::u16string_view reason) override;
 
+  /// What stands in for the user where entities are asked for.
+  using SelectionAnswer = std::function<HostSelectionSet()>;
+  /// From now on the first prompt for entities of each command gets them from `answer`, a prompt for one
+  /// entity the first of them; an empty selection cancels. Later prompts of the command read the input, so
+  /// that one that asks until the user leaves comes to its end.
+  void answerSelections(SelectionAnswer answer) { m_selection_answer = std::move(answer); }
+
   /// Number of prompts of commands that met the end of the input.
   int unanswered() const { return m_unanswered; }
   /// Number of reasons given to `refuse`.
@@ -57,6 +66,7 @@ class HostPromptLoop : public HostEdPrompt {
   /// Asks for the opposite corner, and adds what the rectangle takes.
   void addRectangle(const OdGePoint3d& corner, HostSelectionSet& picked);
   void addFound(const std::vector<OdDbObjectId>& found, HostSelectionSet& picked);
+  int takeAnsweredSelection(unsigned mode_flags, HostSelectionSet& picked);
   bool addEntityAt(const OdGePoint3d& point, unsigned mode_flags, HostSelectionSet& picked);
   bool addNamedEntity(std::u16string_view line, unsigned mode_flags, HostSelectionSet& picked);
 
@@ -65,6 +75,8 @@ class HostPromptLoop : public HostEdPrompt {
   HostCommandLine& m_line;
   OdGePoint3d m_last_point;
   std::optional<OdGePoint3d> m_cursor;  ///< seen while the present prompt waits
+  SelectionAnswer m_selection_answer;
+  bool m_selection_answered = false;  ///< in the present command
   int m_unanswered = 0;
   int m_refusals = 0;
 };

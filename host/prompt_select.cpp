@@ -29,6 +29,8 @@ OdDbObjectId newest_entity(const OdDbDatabase& database) {
 
 int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) {
   picked.clear();
+  if (m_selection_answer && !std::exchange(m_selection_answered, true))
+    return takeAnsweredSelection(mode_flags, picked);
   const HostPromptRequest request{.prompt = std::u16string(prompt)};
   std::optional<OdGePoint3d> corner;  // of a rectangle, pressed where no entity is
   const HostReading reading{
@@ -50,6 +52,13 @@ int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, Host
     if (answer != kAnswerValue || (mode_flags & kSelectSingle)) return answer;
     if (corner) addRectangle(*std::exchange(corner, std::nullopt), picked);
   }
+}
+
+int HostPromptLoop::takeAnsweredSelection(unsigned mode_flags, HostSelectionSet& picked) {
+  const HostSelectionSet answer = m_selection_answer();
+  if (answer.isEmpty()) return kAnswerCancel;
+  picked = mode_flags & kSelectSingle ? HostSelectionSet(answer.ids().front()) : answer;
+  return kAnswerValue;
 }
 
 bool HostPromptLoop::addEntityAt(const OdGePoint3d& point, unsigned mode_flags, HostSelectionSet& picked) {

@@ -64,6 +64,8 @@ int HostPromptLoop::read_input(std::u16string_view prompt, std::u16string_view k
                                                     : u"Something has to be typed here.";
   HostReading reading = reading_of(request, wanted);
   reading.is_command = (flags & kReadCommand) != 0;
+  if (reading.is_command) m_selection_answered = false;
+  reading.takes_blanks = (flags & kReadBlanksAlone) != 0;
   reading.take_line = [&](std::u16string_view line) {
     if ((flags & kReadOnlyWaits) && !line.empty()) return false;
     const bool keeps_blanks = (flags & kReadKeepBlanks) != 0;

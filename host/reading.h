@@ -12,7 +12,8 @@ struct HostReading {
   HostKeywordList keywords;
   std::u16string default_answer;
   bool may_be_empty = false;
-  bool is_command = false;  ///< the command line's own prompt
+  bool takes_blanks = false;  ///< a line of blanks alone is no empty one
+  bool is_command = false;    ///< the command line's own prompt
   /// What is told when something else is typed: one sentence.
   std::u16string wanted;
   /// Takes a typed line; false when it is not what is wanted.

@@ -1,13 +1,7 @@
 #include "host/selection_set.h"
 
-#include <algorithm>
-
-bool HostSelectionSet::contains(const OdDbObjectId& id) const {
-  return std::find(m_ids.begin(), m_ids.end(), id) != m_ids.end();
-}
-
 void HostSelectionSet::add(const OdDbObjectId& id) {
-  if (!contains(id)) m_ids.push_back(id);
+  if (m_members.insert(id).second) m_ids.push_back(id);
 }
 
 void HostSelectionSet::add(const OdDbObjectId& id, const OdGePoint3d& pressed) {
@@ -15,4 +9,6 @@ void HostSelectionSet::add(const OdDbObjectId& id, const OdGePoint3d& pressed) {
   m_pressed = pressed;
 }
 
-void HostSelectionSet::remove(const OdDbObjectId& id) { std::erase(m_ids, id); }
+void HostSelectionSet::remove(const OdDbObjectId& id) {
+  if (m_members.erase(id) > 0) std::erase(m_ids, id);
+}

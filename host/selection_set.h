@@ -1,6 +1,7 @@
 #pragma once
 
 #include <optional>
+#include <unordered_set>
 #include <vector>
 
 #include "od/db/OdDbObjectId.h"
@@ -14,7 +15,7 @@ class HostSelectionSet {
   /// An entity that was picked by a press at a point of the world.
   HostSelectionSet(const OdDbObjectId& id, const OdGePoint3d& pressed) { add(id, pressed); }
 
-  bool contains(const OdDbObjectId& id) const;
+  bool contains(const OdDbObjectId& id) const { return m_members.contains(id); }
   /// Adds an entity; one that is in already keeps its place.
   void add(const OdDbObjectId& id);
   /// The same by a press at a point of the world.
@@ -28,5 +29,6 @@ class HostSelectionSet {
 
  private:
   std::vector<OdDbObjectId> m_ids;
+  std::unordered_set<OdDbObjectId> m_members;  ///< the same ids, to be found at once
   std::optional<OdGePoint3d> m_pressed;
 };

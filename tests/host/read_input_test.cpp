@@ -71,6 +71,16 @@ TEST_F(ReadInput, the_cancel_sign_typed_by_a_filter_cancels_the_running_prompt) 
   EXPECT_EQ(prompt.read_input(u"Type the text...", u"", kSessionFlags), kAnswerCancel);
 }
 
+TEST_F(ReadInput, a_line_of_blanks_alone_is_empty_but_where_it_is_told_apart) {
+  for (int i = 0; i < 2; ++i) input.line(u"  ");
+  EXPECT_EQ(prompt.read_input(u"Replace with", u"", kReadKeepBlanks | kReadMayBeEmpty, &answer),
+            kAnswerValue);
+  EXPECT_EQ(answer, u"");
+  EXPECT_EQ(prompt.read_input(u"Replace with", u"", kReadKeepBlanks | kReadBlanksAlone, &answer),
+            kAnswerValue);
+  EXPECT_EQ(answer, u"  ");
+}
+
 TEST_F(ReadInput, a_wait_refuses_typed_text_and_goes_on) {
   input.line(u"Save");
   input.line(u"");
