@@ -1,0 +1,31 @@
+#pragma once
+
+#include <unistd.h>
+
+#include <utility>
+
+namespace dxf {
+
+/// An open file that is closed when it goes out of scope.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+  Descriptor& operator=(Descriptor&&) = delete;
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  bool is_open() const { return number_ >= 0; }
+  int number() const { return number_; }
+  /// False where closing reports that the bytes did not arrive.
+  bool close() {
+    const int closing = number_;
+    number_ = -1;
+    return ::close(closing) == 0;
+  }
+
+ private:
+  int number_;
+};
+
+}  // namespace dxf
