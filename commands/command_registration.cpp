@@ -6,6 +6,7 @@
 #include "commands/text_edit_command.h"
 #include "commands/text_find_command.h"
 #include "commands/text_fit_command.h"
+#include "commands/text_replace_command.h"
 #include "commands/text_to_mtext_command.h"
 #include "commands/tjust_command.h"
 #include "host/exports.h"
@@ -41,6 +42,7 @@ OdSmartPtr<ICmdProcess> make_typed_text() { return {new CTextCreateCmd(/*in_plac
 [[maybe_unused]] const bool kJustifyText = host::register_command(u"justifytext", make<CJustifyTextCmd>);
 [[maybe_unused]] const bool kTextFit = host::register_command(u"TextFit", make<CTextFitCmd>);
 [[maybe_unused]] const bool kText2MText = host::register_command(u"Text2MText", make<CText2MTextCmd>);
+[[maybe_unused]] const bool kTextReplace = host::register_command(u"TextReplace", make<CTextReplaceCmd>);
 [[maybe_unused]] const bool kTCase = host::register_command(u"TCase", make<CTCase>);
 [[maybe_unused]] const bool kTextFind =
     host::register_command(u"TextFind", make<CTextFindCmd>, u"HOST", kCommandUsesPickFirst);

@@ -36,10 +36,12 @@ std::u16string codes_of(const OdDbText& text) {
 }
 
 void set_codes(OdDbMText& text, const std::u16string& codes) {
+  if (codes == codes_of(text)) return;
   if (!set_field_codes(text, codes)) text.setContents(codes);
 }
 
 void set_codes(OdDbText& text, const std::u16string& codes) {
+  if (codes == codes_of(text)) return;
   if (!set_field_codes(text, codes)) text.setTextString(codes);
   if (!text.isDefaultAlignment()) text.adjustAlignment();
 }
