@@ -5,10 +5,13 @@
 #include <iostream>
 #include <new>
 
+#include "desk/batch/batch_worker.h"
+#include "desk/batch/run_batch.h"
 #include "desk/cli/arguments.h"
-#include "desk/cli/exit_code.h"
 #include "desk/cli/list_texts.h"
 #include "desk/cli/load_module.h"
+#include "desk/program/exit_code.h"
+#include "desk/program/usage_error.h"
 #include "desk/script/script_reader.h"
 #include "desk/window/run_window.h"
 
@@ -43,6 +46,11 @@ struct Performer {
     if (const std::string error = loadModule(); !error.empty()) std::cerr << error << '\n';
     return runScript(options);
   }
+  int operator()(const BatchOptions& options) const { return runBatch(options); }
+  int operator()(const BatchWorkerOptions& options) const {
+    if (const std::string error = loadModule(); !error.empty()) std::cerr << error << '\n';
+    return runBatchWorker(options);
+  }
   int operator()(const RenderOptions& options) const {
     return drawingPictures([&] { return renderDrawing(options); });
   }
@@ -52,7 +60,8 @@ struct Performer {
   }
   int operator()(const WindowOptions& options) const {
     if (!hasDisplay()) {
-      std::cerr << "There is no display to open a window on; run, render, text and mtext work without one.\n";
+      std::cerr << "There is no display to open a window on; run, batch, render, text and mtext work without "
+                   "one.\n";
       return kExitUsage;
     }
     beQuietAboutRuntimeFolder();
@@ -83,6 +92,9 @@ int main(int count, char** words) {
   } catch (const ScriptError& error) {
     std::cerr << error.what() << '\n';
     return kExitRefused;
+  } catch (const UsageError& error) {
+    std::cerr << error.what() << '\n';
+    return kExitUsage;
   } catch (const std::bad_alloc&) {
     std::cerr << "The drawing needs more memory than there is.\n";
     return kExitFileError;

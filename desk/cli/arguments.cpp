@@ -4,10 +4,11 @@
 #include <cmath>
 #include <sstream>
 
-#include "desk/cli/exit_code.h"
+#include "desk/cli/batch_arguments.h"
 #include "desk/cli/mtext_arguments.h"
 #include "desk/cli/number_list.h"
 #include "desk/cli/picture_size.h"
+#include "desk/program/exit_code.h"
 
 namespace {
 
@@ -34,6 +35,8 @@ class Parser {
     addRender();
     addText();
     m_mtext_app = addMText(m_app, m_mtext);
+    m_batch_app = addBatch(m_app, m_batch);
+    m_worker_app = addBatchDrawing(m_app, m_worker);
   }
   Parser(const Parser&) = delete;
   Parser& operator=(const Parser&) = delete;
@@ -83,6 +86,8 @@ class Parser {
     if (m_render_app->parsed()) return m_render;
     if (m_text_app->parsed()) return m_text;
     if (m_mtext_app->parsed()) return m_mtext;
+    if (m_batch_app->parsed()) return m_batch;
+    if (m_worker_app->parsed()) return m_worker;
     return m_window;
   }
 
@@ -91,11 +96,15 @@ class Parser {
   CLI::App* m_render_app = nullptr;
   CLI::App* m_text_app = nullptr;
   CLI::App* m_mtext_app = nullptr;
+  CLI::App* m_batch_app = nullptr;
+  CLI::App* m_worker_app = nullptr;
   WindowOptions m_window;
   RunOptions m_run;
   RenderOptions m_render;
   TextOptions m_text;
   MTextOptions m_mtext;
+  BatchOptions m_batch;
+  BatchWorkerOptions m_worker;
 };
 
 }  // namespace

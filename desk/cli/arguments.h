@@ -5,6 +5,7 @@
 #include <string>
 #include <variant>
 
+#include "desk/batch/batch_options.h"
 #include "desk/cli/mtext_command.h"
 #include "desk/cli/render_drawing.h"
 #include "desk/cli/run_script.h"
@@ -26,8 +27,8 @@ struct CalledOff {
   std::string text;  ///< for standard output when the code is 0, else for standard error
 };
 
-using Arguments =
-    std::variant<WindowOptions, RunOptions, RenderOptions, TextOptions, MTextOptions, CalledOff>;
+using Arguments = std::variant<WindowOptions, RunOptions, RenderOptions, TextOptions, MTextOptions,
+                               BatchOptions, BatchWorkerOptions, CalledOff>;
 
 /// Reads the command line of the program.
 Arguments readArguments(int count, const char* const* words);

@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
-#include "desk/cli/file_error.h"
-#include "desk/cli/input_file.h"
 #include "desk/cli/json_members.h"
+#include "desk/program/file_error.h"
+#include "desk/program/input_file.h"
 #include "desk/text_json/text_json.h"
 #include "od/base/unicode.h"
 

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <sstream>
 
-#include "desk/cli/file_error.h"
+#include "desk/program/file_error.h"
 #include "od/base/unicode.h"
 
 namespace {

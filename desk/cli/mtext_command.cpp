@@ -2,10 +2,10 @@
 
 #include <iostream>
 
-#include "desk/cli/exit_code.h"
-#include "desk/cli/file_error.h"
-#include "desk/cli/input_file.h"
 #include "desk/cli/text_frame.h"
+#include "desk/program/exit_code.h"
+#include "desk/program/file_error.h"
+#include "desk/program/input_file.h"
 #include "desk/text_json/layout_json.h"
 #include "desk/text_json/multitext_json.h"
 #include "mtext/escape.h"

@@ -8,7 +8,7 @@
 #include <QSaveFile>
 #include <QSvgGenerator>
 
-#include "desk/cli/file_error.h"
+#include "desk/program/file_error.h"
 
 namespace {
 

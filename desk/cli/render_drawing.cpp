@@ -3,12 +3,12 @@
 #include <QPainter>
 #include <iostream>
 
-#include "desk/cli/exit_code.h"
 #include "desk/cli/picture_file.h"
 #include "desk/document/drawing_file.h"
 #include "desk/document/space_extents.h"
 #include "desk/document/view_motion.h"
 #include "desk/painter/paint_drawing.h"
+#include "desk/program/exit_code.h"
 
 namespace {
 

@@ -1,10 +1,10 @@
-#include "desk/cli/input_file.h"
+#include "desk/program/input_file.h"
 
 #include <fstream>
 #include <iostream>
 #include <iterator>
 
-#include "desk/cli/file_error.h"
+#include "desk/program/file_error.h"
 
 namespace {
 
