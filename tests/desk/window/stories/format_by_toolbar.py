@@ -56,6 +56,8 @@ with Desk(options.program, drawing, options.folder) as desk:
     stages.do("stack", lambda: bar.press("stack"), select=lambda: desk.click(*places.in_text(11, -1), repeat=2))
     stages.do("list", lambda: bar.choose("numbering", rows_down=3))
     stages.do("count-restarts", lambda: bar.choose("numbering", rows_down=1), select=lambda: desk.key("Prior"))
+    stages.do("spacing", lambda: bar.ask("spacing", 5, "space", "Tab", "Tab", "ctrl+a", "2", "Return"))
+    stages.do("columns", lambda: bar.ask("columns", 5, "alt+s", "Tab", "ctrl+a", "3", "Return"))
     stages.do("attachment", lambda: bar.choose("attachment", rows_down=4))
     stages.undo_all()
 

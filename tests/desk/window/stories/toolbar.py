@@ -38,3 +38,14 @@ class Toolbar:
         """Chooses the row that stands so many below the present one of a list, or below the top of a menu."""
         self.open(name)
         self.desk.key(*["Down"] * rows_down, "Return")
+
+    def ask(self, name, rows_down, *keys):
+        """Chooses the row of a menu that opens a dialog, and gives it keys until it goes."""
+        windows = self.desk.windows()
+        self.choose(name, rows_down)
+        self.desk.until(lambda: self.desk.windows() > windows, f"{name}: no dialog opens")
+        self.desk.settle()
+        for chord in keys:
+            self.desk.key(chord)
+            self.desk.settle()
+        self.desk.until(lambda: self.desk.windows() <= windows, f"{name}: the dialog does not go away")
