@@ -24,6 +24,8 @@ RunningProgram::RunningProgram(const std::filesystem::path& folder, std::vector<
   ::dup2(file, STDOUT_FILENO);
   ::dup2(file, STDERR_FILENO);
   for (const char* name : {"DISPLAY", "WAYLAND_DISPLAY", "QT_QPA_PLATFORM"}) ::unsetenv(name);
+  // A sanitizer would keep what was freed for later checks, as if the program still had it.
+  ::setenv("ASAN_OPTIONS", "quarantine_size_mb=1:thread_local_quarantine_size_kb=64", /*overwrite=*/1);
   if (::chdir(folder.c_str()) == 0) ::execv(pointers[0], pointers.data());
   std::_Exit(127);
 }
