@@ -26,6 +26,7 @@ class agreeing_display : public DialogDisplay {
     dialog.select(U'\u00B0');
     return true;
   }
+  bool show(CCaseDlg&) override { return true; }
 };
 
 /// What a user does with a control, and what becomes of the text.

@@ -55,6 +55,7 @@ class answering_display : public DialogDisplay {
     return accept;
   }
   bool show(CSymbolDlg&) override { return false; }
+  bool show(CCaseDlg&) override { return false; }
 
   bool accept = true;
   std::uint32_t type = 1;
