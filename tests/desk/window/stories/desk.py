@@ -9,8 +9,8 @@ import picture
 from display import Display, needed
 
 
-# Below the view, so that the toolbar of a session hides nothing that a story looks at.
-TOOLBAR_PLACE = (20, 700)
+# Off the display, so that the toolbar of a session hides nothing that a story looks at.
+OUT_OF_SIGHT = (-3000, 0)
 
 
 class Desk:
@@ -19,7 +19,7 @@ class Desk:
     Places are pixels of the display; on one of `density` 2 the window has twice as many of them each way.
     """
 
-    def __init__(self, program, drawing, folder, beside=None, density=1):
+    def __init__(self, program, drawing, folder, beside=None, density=1, toolbar_place=OUT_OF_SIGHT):
         self.process = None
         self.folder = folder
         self.beside = beside
@@ -28,7 +28,7 @@ class Desk:
         self.display = beside.display if beside else Display(f"{1280 * density}x{800 * density}")
         self.environment = dict(os.environ, DISPLAY=self.display.name, QT_QPA_PLATFORM="xcb",
                                 XDG_CONFIG_HOME=str(folder / "config"), QT_SCALE_FACTOR=str(density), LC_ALL="C.UTF-8")
-        self.put_toolbar(*TOOLBAR_PLACE)
+        self.put_toolbar(*toolbar_place)
         try:
             self.process = subprocess.Popen([str(program), str(drawing)], env=self.environment, cwd=folder,
                                             stdout=self.log, stderr=self.log)
@@ -119,8 +119,12 @@ class Desk:
         return False
 
     def windows(self):
-        """How many windows the program shows."""
-        return len(self.tool("search", "--onlyvisible", "--class", "scribe").split())
+        """How many windows the program shows, beside the toolbars of sessions."""
+        return len(self.tool("search", "--onlyvisible", "--class", "scribe").split()) - self.toolbars()
+
+    def toolbars(self):
+        """How many toolbars the programs on the display show."""
+        return len(self.tool("search", "--onlyvisible", "--name", "^Text formatting$").split())
 
     def answer(self, key, windows_before):
         """Waits for a question's box, answers it by a key, and waits until the box is gone."""

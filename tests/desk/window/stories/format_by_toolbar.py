@@ -42,11 +42,10 @@ class Stages:
                 raise AssertionError(f"{name}: undo does not lead back to what was before")
 
 
-with Desk(options.program, drawing, options.folder) as desk:
+with Desk(options.program, drawing, options.folder, toolbar_place=(20, 700)) as desk:
     places = made_drawing.Places(desk.settle(), sheet)
-    windows = desk.windows()
     desk.click(*places.in_text(2, -1), repeat=2)
-    bar = Toolbar(desk, windows)
+    bar = Toolbar(desk)
     story.keep_picture(desk, options, "0-opened.png")
     stages = Stages(desk, bar)
 

@@ -20,7 +20,7 @@ with Desk(options.program, drawing, options.folder) as desk:
     panel = (0, 690, 1280, 745)
     before = desk.settle()
     desk.type("mine")
-    desk.key("ctrl+s", "ctrl+q", "ctrl+o", "alt+f")
+    desk.key("ctrl+s", "ctrl+q", "ctrl+o", "ctrl+o", "alt+f")  # overlined and back
     desk.until_changed(before, "typing changed nothing in the view", least=1000)
     desk.settle()
     assert desk.process.poll() is None, "a shortcut ended the program"

@@ -9,9 +9,9 @@ CONTROLS = {"font": (200, 15), "size": (292, 15), "color": (398, 15), "bold": (4
 class Toolbar:
     """The toolbar that a session has just opened, at the place that the desk has put it to."""
 
-    def __init__(self, desk, windows_before):
+    def __init__(self, desk):
         self.desk, self.place = desk, desk.toolbar_place
-        desk.until(lambda: desk.windows() > windows_before, "no toolbar opens")
+        desk.until(desk.toolbars, "no toolbar opens")
         desk.settle()
 
     def middle(self, name):
