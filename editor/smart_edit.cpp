@@ -56,10 +56,12 @@ void smart_edit::pushUndoStep(int kind) {
 }
 
 void smart_edit::undoStep() {
+  forgetPress();
   if (m_undo.undo(*m_editable)) showRestored();
 }
 
 void smart_edit::redoStep() {
+  forgetPress();
   if (m_undo.redo(*m_editable)) showRestored();
 }
 
