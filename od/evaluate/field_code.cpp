@@ -1,6 +1,6 @@
 #include "od/evaluate/field_code.h"
 
-#include "od/field/code_reader.h"
+#include "od/field/evaluator_name.h"
 
 namespace {
 

@@ -1,5 +1,6 @@
 #include "od/field/code_reader.h"
 
+#include "od/field/evaluator_name.h"
 #include "od/field/field_markers.h"
 
 namespace field_code {

@@ -10,7 +10,4 @@ namespace field_code {
 /// costs heap.
 OdDbFieldPtr read(std::u16string_view code);
 
-/// The evaluator that a code asks for: `AcVar` of `\AcVar.17.0 Lisp.x`; empty where the code names none.
-SCRIBE_EXPORT std::u16string_view evaluatorOf(std::u16string_view code);
-
 }  // namespace field_code

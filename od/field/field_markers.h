@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -14,9 +15,9 @@ inline constexpr std::u16string_view kOdMarkerEnd = u">%";
 
 /// A reference `%<\_name number>%` in the code of a field.
 struct OdFieldReference {
-  std::size_t begin = 0;  ///< of the marker
-  std::size_t end = 0;    ///< behind the marker
-  std::uint64_t number = 0;
+  std::size_t begin = 0;     ///< of the marker
+  std::size_t end = 0;       ///< behind the marker
+  std::uint64_t number = 0;  ///< what is referred to
 };
 
 /// The first reference of that name (`\_FldIdx`, `\_ObjIdx`, `\_ObjId`) in `code` from `from` on. One whose
