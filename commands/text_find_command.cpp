@@ -135,9 +135,9 @@ class find_dialogue {
 
   bool askReplacement() {
     if (m_asked) return true;
-    const int answer =
-        m_prompt.read_input(host::resource_string(kReplaceWith), u"",
-                            kReadWholeLine | kReadKeepBlanks | kReadMayBeEmpty, &m_settings.replacement);
+    const int answer = m_prompt.read_input(
+        host::resource_string(kReplaceWith), u"",
+        kReadWholeLine | kReadKeepBlanks | kReadBlanksAlone | kReadMayBeEmpty, &m_settings.replacement);
     m_asked = answer == kAnswerValue;
     return m_asked;
   }

@@ -9,8 +9,12 @@
 #include "host/prompt.h"
 #include "host/translate.h"
 #include "od/base/unicode.h"
+#include "ui/resources/message_format.h"
 
 namespace {
+
+// Strings.
+constexpr int kFindWhat = 1350, kReplaceWith = 1353, kReplaced = 1355, kFind = 1351;
 
 /// Ways to look, in the order of their keywords.
 constexpr const char16_t* kKeywords = u"Words AnyCase Expression AnyCaseExpression";
@@ -20,8 +24,8 @@ constexpr HostTextPattern::Options kWays[] = {{.is_expression = false, .ignores_
                                               {.is_expression = true, .ignores_case = true}};
 
 /// A line with all its blanks; false when the user thinks better of it.
-bool ask_line(HostEdPrompt& prompt, std::u16string_view question, unsigned flags, std::u16string& line) {
-  return prompt.read_input(Supp_Translate(question), u"",
+bool ask_line(HostEdPrompt& prompt, int question, unsigned flags, std::u16string& line) {
+  return prompt.read_input(host::resource_string(question), u"",
                            kReadWholeLine | kReadKeepBlanks | kReadBlanksAlone | flags,
                            &line) == kAnswerValue;
 }
@@ -47,10 +51,10 @@ int CTextReplaceCmd::runIn(HostDocument& document) {
   const auto selected = ask_for_texts(document);
   if (!selected) return kCommandCancelled;
   std::u16string wanted, replacement;
-  if (!ask_line(prompt, u"Find what", 0, wanted)) return kCommandCancelled;
-  if (!ask_line(prompt, u"Replace with", kReadMayBeEmpty, replacement)) return kCommandCancelled;
+  if (!ask_line(prompt, kFindWhat, 0, wanted)) return kCommandCancelled;
+  if (!ask_line(prompt, kReplaceWith, kReadMayBeEmpty, replacement)) return kCommandCancelled;
   const int way = prompt.getKeyword(
-      {.prompt = Supp_Translate(u"Look for"), .keywords = kKeywords, .default_answer = u"Words"});
+      {.prompt = host::resource_string(kFind), .keywords = kKeywords, .default_answer = u"Words"});
   if (way < 0) return kCommandCancelled;
   const selected_texts texts = open_texts(*selected);
   std::size_t matches = 0, changed = 0;
@@ -61,7 +65,7 @@ int CTextReplaceCmd::runIn(HostDocument& document) {
   } catch (const std::invalid_argument& error) {
     prompt.refuse(odToUtf16(error.what()));
   }
-  prompt.message(Supp_Translate(u"Replaced:") + u" " + odToUtf16(std::to_string(matches)) + u"; " +
-                 Supp_Translate(u"texts:") + u" " + odToUtf16(std::to_string(changed)));
+  prompt.message(
+      resources::format_string(kReplaced, {static_cast<double>(matches), static_cast<double>(changed)}));
   return kCommandDone;
 }

@@ -39,7 +39,7 @@ TEST(TextReplace, replaces_all_matches_in_both_kinds_of_text) {
   EXPECT_EQ(texts.answer({u"Hall", u"Room", u""}), kCommandDone);
   EXPECT_EQ(texts.line->textString().str(), u"Room 1");
   EXPECT_EQ(texts.block->contents().str(), u"{\\C1;hall} {}and Room");
-  EXPECT_THAT(texts.said(), Contains(u"Replaced: 2; texts: 2"));
+  EXPECT_THAT(texts.said(), Contains(u"2 replaced in 2 texts"));
 }
 
 TEST(TextReplace, takes_either_case_and_expressions) {
@@ -64,7 +64,7 @@ TEST(TextReplace, changes_nothing_without_a_match_and_is_done) {
   replacing texts;
   EXPECT_EQ(texts.answer({u"Cellar", u"x", u"Words"}), kCommandDone);
   EXPECT_EQ(texts.line->textString().str(), u"Hall 1");
-  EXPECT_THAT(texts.said(), Contains(u"Replaced: 0; texts: 0"));
+  EXPECT_THAT(texts.said(), Contains(u"0 replaced in 0 texts"));
 }
 
 TEST(TextReplace, refuses_what_is_no_expression) {
