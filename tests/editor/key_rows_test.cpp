@@ -164,7 +164,7 @@ TEST(KeyRows, edits_push_one_step_and_moves_none) {
   for (const row& row : kMultiLine) {
     edited_text text(row.before);
     text.keys(row.key);
-    const bool pushes = row.undo_run == kDelete || row.undo_run == kType;
+    const bool pushes = row.undo_run == kDelete || row.undo_run == kType || row.undo_run == kFormat;
     EXPECT_EQ(text.session().undo().undo_count(), pushes ? 1U : 0U) << named(row);
   }
 }

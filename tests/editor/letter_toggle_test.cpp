@@ -38,5 +38,5 @@ TEST(ChangeCase, changes_letters_of_words_and_stacks_and_leaves_labels_and_field
   text.text().selectRange(0, -1, /*snap=*/false, /*keep=*/false);
   text.text().changeCase(/*to_upper=*/true);
   text.text().endOfEdit(/*relayout=*/true);
-  EXPECT_EQ(text.codes(), "a.\tAB{\\H0.7x;\\SC/D;}%<\\AcVar Date>%\\PEF");
+  EXPECT_EQ(text.codes(), "a.\tAB{\\H1.4286x;{\\H0.7x;\\SC/D;}}%<\\AcVar Date>%\\PEF");
 }

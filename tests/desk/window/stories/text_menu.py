@@ -14,7 +14,7 @@ def choose_degree(desk, x, y, look=lambda: None):
     """Goes to the sub-menu by the arrow keys, looks at it, and takes its first row; gives the view afterwards."""
     windows = desk.windows()
     open_menu(desk, x, y)
-    desk.key("Up", "Right")
+    desk.key("Up", "Up", "Right")  # over the field rows that can be chosen
     desk.until(lambda: desk.windows() > windows + 1, "no sub-menu opens")
     desk.settle()
     look()
