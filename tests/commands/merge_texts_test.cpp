@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "commands/text_to_mtext_command.h"
+#include "od/db/OdDbTextStyleTableRecord.h"
 #include "tests/commands/command_run.h"
 
 using testing::ElementsAre;
@@ -117,6 +118,22 @@ TEST(MergeTexts, each_text_keeps_its_width_and_its_slant) {
   wide->setWidthFactor(2);
   wide->setOblique(0.25);
   EXPECT_EQ(text.contents(), by_layer(u"plain \\W2;\\Q14.324;wide"));
+}
+
+TEST(MergeTexts, a_first_text_that_agrees_with_its_style_needs_no_codes_for_it) {
+  merging text;
+  {
+    const auto style =
+        odCast<OdDbTextStyleTableRecord>(text.run.database->getTEXTSTYLE().openObject(OdDb::kForWrite));
+    style->setXScale(0.8);
+    style->setObliquingAngle(0.25);
+    style->setTextSize(4);
+  }
+  const auto first = text.add(u"plain", {0, 0, 0});
+  first->setWidthFactor(0.8);
+  first->setOblique(0.25);
+  EXPECT_EQ(text.contents(), by_layer(u"plain"));
+  EXPECT_EQ(text.merged()->textHeight(), 4);
 }
 
 TEST(MergeTexts, the_first_text_gives_height_rotation_and_place) {

@@ -150,6 +150,38 @@ TEST(Session, answering_the_cancel_choice_returns_to_editing_with_text_selection
   EXPECT_EQ(contents_of(id), OdString(u"wHall"));
 }
 
+TEST(Session, behind_the_cancel_choice_the_selected_text_is_still_selected) {
+  command_run run;
+  const auto id = text_in(run);
+  run.select(id);
+  run.type(u"xy");
+  run.key(VK_END);
+  run.key(VK_LEFT, {.shift = true});
+  run.key(VK_LEFT, {.shift = true});
+  run.key(VK_ESCAPE);
+  run.application.events().answer(kBoxCancel);
+  run.type(u"z");
+  run.key(VK_RETURN, kCtrl);
+  EXPECT_EQ(run.edit(), kCommandDone);
+  EXPECT_EQ(contents_of(id), OdString(u"xyHaz"));
+}
+
+TEST(Session, behind_the_cancel_choice_what_was_undone_can_still_be_done_again) {
+  command_run run;
+  const auto id = text_in(run);
+  run.select(id);
+  run.type(u"x");
+  run.key(VK_END);
+  run.type(u"y");
+  run.key('Z', kCtrl);
+  run.key(VK_ESCAPE);
+  run.application.events().answer(kBoxCancel);
+  run.key('Y', kCtrl);
+  run.key(VK_RETURN, kCtrl);
+  EXPECT_EQ(run.edit(), kCommandDone);
+  EXPECT_EQ(contents_of(id), OdString(u"xHally"));
+}
+
 TEST(Session, the_end_of_the_input_discards) {
   command_run run;
   const auto id = text_in(run);

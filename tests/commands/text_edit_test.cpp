@@ -67,6 +67,7 @@ TEST_F(TextEdit, a_locked_object_gives_the_message_and_the_prompt_again) {
   EXPECT_EQ(run.run<CTextEditCmd>(), kCommandDone);
   EXPECT_THAT(run.application.log().lines(), Contains(u"Layer locked"));
   EXPECT_EQ(text_of_line(), OdString(u"one"));
+  EXPECT_TRUE(input.isEmpty());
 }
 
 TEST_F(TextEdit, any_other_entity_is_told_and_asked_again) {

@@ -72,6 +72,20 @@ TEST(Mouse, a_single_click_in_a_field_puts_the_caret_at_its_nearer_end) {
   EXPECT_EQ(text.drawn(), "a|----b");
 }
 
+TEST(Mouse, a_single_click_in_the_right_half_of_a_field_puts_the_caret_behind_it) {
+  auto text = edited_text::on_codes("a%<F>%b", wrapping(60));
+  text.send(at(WM_LBUTTONDOWN, 5.7));
+  EXPECT_EQ(text.drawn(), "a----|b");
+}
+
+TEST(Mouse, a_double_click_in_a_field_selects_it_from_end_to_end) {
+  for (const double x : {4.8, 7.2}) {
+    auto text = edited_text::on_codes("a %<F>% b", wrapping(60));
+    text.send(at(WM_LBUTTONDBLCLK, x));
+    EXPECT_EQ(text.drawn(), "a [----] b") << x;
+  }
+}
+
 TEST(Mouse, a_press_tells_the_watchers) {
   struct : MTextEditor {
     void onChanged() override { ++changes; }

@@ -4,6 +4,7 @@
 
 #include "host/key_code.h"
 #include "mtext/entity/entity_format.h"
+#include "od/gi/OdGsView.h"
 #include "tests/editor/edited_drawing.h"
 
 TEST(Session, hides_its_entity_and_shows_it_again_at_the_end) {
@@ -137,6 +138,33 @@ TEST(Session, typing_into_a_rotated_text_works_in_its_own_plane) {
   session.finishEdit(/*accept=*/true, /*force=*/false);
   EXPECT_EQ(drawing.text->contents(), OdString(u"Hxall"));
   EXPECT_NEAR(drawing.text->rotation(), std::numbers::pi / 2, 1e-12);
+}
+
+TEST(Session, a_rotated_text_that_was_changed_while_it_faced_the_screen_keeps_its_place) {
+  edited_drawing drawing;
+  drawing.application.profile().setNumber(u"Text", u"Rotate", 1);
+  drawing.text->setRotation(std::numbers::pi / 2);
+  const OdGePoint3d location = drawing.text->location();
+  smart_edit& session = drawing.begin();
+  drawing.type(u"My ");
+  session.finishEdit(/*accept=*/true, /*force=*/false);
+  EXPECT_EQ(drawing.text->contents(), OdString(u"My Hall"));
+  EXPECT_TRUE(drawing.text->direction().isEqualTo(OdGeVector3d::kYAxis));
+  EXPECT_TRUE(drawing.text->location().isEqualTo(location));
+}
+
+TEST(Session, a_view_that_was_zoomed_out_stays_so_until_the_next_edit) {
+  edited_drawing drawing;
+  drawing.begin();
+  drawing.type(u"a");
+  OdGsView& view = drawing.application.document().view().gsView();
+  const double wide = view.fieldWidth() * 1000;
+  view.setView(view.position(), view.target(), view.upVector(), wide, view.fieldHeight() * 1000);
+  drawing.send({.number = WM_MOUSEWHEEL});
+  drawing.send({.number = WM_MOUSEMOVE, .point = {12, 19, 0}});
+  EXPECT_EQ(view.fieldWidth(), wide);
+  drawing.type(u"b");
+  EXPECT_LT(view.fieldWidth(), wide);
 }
 
 TEST(Session, the_caret_begins_where_the_command_points) {
