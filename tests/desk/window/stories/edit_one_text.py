@@ -7,7 +7,10 @@ options = story.arguments()
 place = story.choose(options, ("137,258", "207,296"), ("11500,10500", "21500,15500"))
 drawing = story.prepared(options.folder, place)
 
-with Desk(options.program, drawing, options.folder) as desk:
+# The picture of the README shows the toolbar, too, above the text.
+place_of_toolbar = {"toolbar_place": (40, 60)} if options.picture else {}
+
+with Desk(options.program, drawing, options.folder, **place_of_toolbar) as desk:
     x, y = desk.view_middle()
     before_wheel = desk.settle()
     desk.click(x, y, button=4)
