@@ -8,7 +8,7 @@ using enum OdDb::TextHorzMode;
 using enum OdDb::TextVertMode;
 using enum OdDb::AttachmentPoint;
 
-constexpr std::array<text_justification, 13> kJustifications{{
+constexpr std::array<justify_row, 13> kJustifications{{
     {kTextLeft, kTextBase, kTopLeft},
     {kTextCenter, kTextBase, kTopCenter},
     {kTextCenter, kTextBase, kMiddleCenter},
@@ -34,11 +34,9 @@ OdGePoint3d corner_of(const OdDbMText& text) {
 
 }  // namespace
 
-const text_justification& justification_at(int index) {
-  return kJustifications.at(static_cast<std::size_t>(index));
-}
+const justify_row& justification_at(int index) { return kJustifications.at(static_cast<std::size_t>(index)); }
 
-void justify_in_place(OdDbText& text, const text_justification& to) {
+void justify_in_place(OdDbText& text, const justify_row& to) {
   // Files hold positions that nobody worked out: the alignment point is what counts.
   text.adjustAlignment();
   const OdGePoint3d before = text.position();
@@ -50,7 +48,7 @@ void justify_in_place(OdDbText& text, const text_justification& to) {
   text.adjustAlignment();
 }
 
-void justify_in_place(OdDbMText& text, const text_justification& to) {
+void justify_in_place(OdDbMText& text, const justify_row& to) {
   const OdGePoint3d before = corner_of(text);
   text.setAttachment(to.attachment);
   text.setLocation(text.location() + (before - corner_of(text)));

@@ -12,7 +12,6 @@
 #include "host/prompt.h"
 #include "host/translate.h"
 #include "mtext/escape.h"
-#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
 
@@ -87,9 +86,7 @@ void DoPasteContents(const std::u16string& text, bool formatted, bool multiline)
                                   .tracker = &tracker};
   if (document->prompt().getPoint(request, at) != kAnswerValue) return;
   tracker.setPoint(at);
-  const auto space =
-      odCastOrThrow<OdDbBlockTableRecord>(editing::current_space(database).openObject(OdDb::kForWrite));
-  hostEntUpd(space->appendOdDbEntity(&pasted.entity()));
+  hostEntUpd(editing::open_current_space(database)->appendOdDbEntity(&pasted.entity()));
 }
 
 bool PasteText(bool check_only) {

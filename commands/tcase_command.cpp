@@ -9,7 +9,6 @@
 #include "host/prompt.h"
 #include "host/translate.h"
 #include "mtext/entity/mtext_size_finder.h"
-#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "ui/dialogs/CCaseDlg.h"
 #include "ui/dialogs/dialog_display.h"
@@ -66,8 +65,7 @@ void change_all(HostDocument& document, const std::vector<OdSmartPtr<Text>>& tex
 }  // namespace
 
 int CTCase::runIn(HostDocument& document) {
-  const OdDbObjectId target = editing::current_space(document.database());
-  odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
+  editing::open_current_space(document.database());  // throws where there is none
   const auto selected = ask_for_texts(document);
   if (!selected) return kCommandCancelled;
   const selected_texts texts = open_texts(*selected);

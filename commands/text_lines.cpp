@@ -13,7 +13,6 @@
 #include "host/key_state.h"
 #include "host/prompt.h"
 #include "host/translate.h"
-#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 
 namespace {
@@ -37,9 +36,7 @@ OdString as_typed(HostDocument& document, const std::u16string& letters) {
 }
 
 OdDbObjectId append(HostDocument& document, const OdDbTextPtr& text) {
-  const OdDbObjectId id = editing::current_space(document.database());
-  const auto space = odCastOrThrow<OdDbBlockTableRecord>(id.openObject(OdDb::kForWrite));
-  const OdDbObjectId made = space->appendOdDbEntity(text.get());
+  const OdDbObjectId made = editing::open_current_space(document.database())->appendOdDbEntity(text.get());
   text->adjustAlignment();
   hostEntUpd(made);
   return made;

@@ -9,7 +9,6 @@
 #include "host/document.h"
 #include "host/selection_set.h"
 #include "od/db/OdDbBlockReference.h"
-#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 
 namespace {
@@ -51,9 +50,8 @@ std::vector<OdDbObjectId> texts_to_search(const OdDbDatabase& database, const Ho
     for (const OdDbObjectId& id : selected.ids()) add_texts(id, texts);
     return texts;
   }
-  const auto space =
-      odCastOrThrow<OdDbBlockTableRecord>(editing::current_space(database).openObject(OdDb::kForRead));
-  for (const OdDbObjectId& id : space->entities()) add_texts(id, texts);
+  for (const OdDbObjectId& id : editing::open_current_space(database, OdDb::kForRead)->entities())
+    add_texts(id, texts);
   return texts;
 }
 

@@ -31,8 +31,7 @@ void replace_texts(HostDocument& document, OdDbBlockTableRecord& space, std::vec
 }  // namespace
 
 int CText2MTextCmd::runIn(HostDocument& document) {
-  const OdDbObjectId target = editing::current_space(document.database());
-  const auto space = odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
+  const auto space = editing::open_current_space(document.database());
   const auto selected = ask_for_texts(document);
   if (!selected) return kCommandCancelled;
   selected_texts texts = open_texts(*selected);

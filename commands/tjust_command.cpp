@@ -6,7 +6,6 @@
 #include "host/document.h"
 #include "host/prompt.h"
 #include "host/translate.h"
-#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 
 namespace {
@@ -14,7 +13,7 @@ namespace {
 constexpr int kKeywords = 1085;
 constexpr int kSelectJustification = 1090;
 
-void justify_all(HostDocument& document, const selected_texts& texts, const text_justification& to) {
+void justify_all(HostDocument& document, const selected_texts& texts, const justify_row& to) {
   for (const OdDbTextPtr& text : texts.single_line) {
     justify_in_place(*text, to);
     document.entityChanged(text->objectId());
@@ -28,8 +27,7 @@ void justify_all(HostDocument& document, const selected_texts& texts, const text
 }  // namespace
 
 int CJust::runIn(HostDocument& document) {
-  const OdDbObjectId target = editing::current_space(document.database());
-  odCastOrThrow<OdDbBlockTableRecord>(target.openObject(OdDb::kForWrite));
+  editing::open_current_space(document.database());  // throws where there is none
   const auto selected = ask_for_texts(document);
   if (!selected) return kCommandCancelled;
   const selected_texts texts = open_texts(*selected);

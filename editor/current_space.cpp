@@ -13,4 +13,8 @@ OdDbObjectId current_space(const OdDbDatabase& database) {
   return viewport && viewport->number() > 1 ? database.getModelSpaceId() : active;
 }
 
+OdDbBlockTableRecordPtr open_current_space(const OdDbDatabase& database, OdDb::OpenMode mode) {
+  return odCastOrThrow<OdDbBlockTableRecord>(current_space(database).openObject(mode));
+}
+
 }  // namespace editing

@@ -1,7 +1,6 @@
 #include "editor/current_space.h"
 #include "editor/smart_edit.h"
 #include "host/document.h"
-#include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
 
@@ -46,8 +45,7 @@ void place(OdDbText& line, const OdDbText& source, std::size_t at, const OdGeVec
 }  // namespace
 
 void smart_edit::writeLines(const OdDbText& source, std::size_t count) {
-  const OdDbObjectId id = editing::current_space(m_host.database());
-  const auto space = odCastOrThrow<OdDbBlockTableRecord>(id.openObject(OdDb::kForWrite));
+  const auto space = editing::open_current_space(m_host.database());
   for (std::size_t at = 0; at < count; ++at) {
     const std::u16string letters = m_editable->lineText(at);
     if (letters.empty()) continue;
