@@ -1,5 +1,7 @@
 #include "host/pickable_entities.h"
 
+#include <algorithm>
+
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbEntity.h"
@@ -8,32 +10,42 @@
 namespace host {
 namespace {
 
-OdDbLayerTableRecordPtr layer_of(const OdDbEntity& entity) {
-  const OdDbObjectId id = entity.layerId();
-  return id ? odCast<OdDbLayerTableRecord>(id.openObject()) : OdDbLayerTableRecordPtr();
-}
+/// An entity as far as it matters whether it is seen, with one look at its layer.
+struct seen_entity {
+  bool visible = false;
+  OdDbLayerTableRecordPtr layer;  ///< null where the drawing has no such layer
 
-bool is_thawed(const OdDbObjectId& id) {
-  const auto entity = odCast<OdDbEntity>(id.openObject());
-  if (!entity || entity->visibility() != OdDb::kVisible) return false;
-  const auto layer = layer_of(*entity);
-  return !layer || !layer->isFrozen();
+  explicit seen_entity(const OdDbObjectId& id) {
+    const auto entity = odCast<OdDbEntity>(id.openObject());
+    visible = entity && entity->visibility() == OdDb::kVisible;
+    const OdDbObjectId layer_id = visible ? entity->layerId() : OdDbObjectId();
+    if (layer_id) layer = odCast<OdDbLayerTableRecord>(layer_id.openObject());
+  }
+
+  bool isThawed() const { return visible && !(layer && layer->isFrozen()); }
+  bool isPickable() const { return isThawed() && !(layer && layer->isOff()); }
+};
+
+std::vector<OdDbObjectId> entities_of(const OdDbDatabase& database) {
+  const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
+  return space ? space->entities() : std::vector<OdDbObjectId>();
 }
 
 template <class Condition>
 std::vector<OdDbObjectId> entities_that(const OdDbDatabase& database, Condition fits) {
-  const auto space = odCast<OdDbBlockTableRecord>(database.getActiveSpaceId().openObject());
-  std::vector<OdDbObjectId> entities = space ? space->entities() : std::vector<OdDbObjectId>();
+  std::vector<OdDbObjectId> entities = entities_of(database);
   std::erase_if(entities, [fits](const OdDbObjectId& id) { return !fits(id); });
   return entities;
 }
 
 }  // namespace
 
-bool is_pickable(const OdDbObjectId& id) {
-  if (!is_thawed(id)) return false;
-  const auto layer = layer_of(*odCast<OdDbEntity>(id.openObject()));
-  return !layer || !layer->isOff();
+bool is_pickable(const OdDbObjectId& id) { return seen_entity(id).isPickable(); }
+
+OdDbObjectId newest_pickable_entity(const OdDbDatabase& database) {
+  const std::vector<OdDbObjectId> entities = entities_of(database);
+  const auto newest = std::find_if(entities.rbegin(), entities.rend(), is_pickable);
+  return newest == entities.rend() ? OdDbObjectId() : *newest;
 }
 
 std::vector<OdDbObjectId> pickable_entities(const OdDbDatabase& database) {
@@ -41,7 +53,7 @@ std::vector<OdDbObjectId> pickable_entities(const OdDbDatabase& database) {
 }
 
 std::vector<OdDbObjectId> thawed_entities(const OdDbDatabase& database) {
-  return entities_that(database, is_thawed);
+  return entities_that(database, [](const OdDbObjectId& id) { return seen_entity(id).isThawed(); });
 }
 
 }  // namespace host

@@ -11,6 +11,9 @@ namespace host {
 /// Whether a user can pick an entity: it is seen, and its layer is shown.
 bool is_pickable(const OdDbObjectId& id);
 
+/// The last one of the current space that can be picked; null where none can.
+OdDbObjectId newest_pickable_entity(const OdDbDatabase& database);
+
 /// All entities of the current space that can be picked, in drawing order.
 std::vector<OdDbObjectId> pickable_entities(const OdDbDatabase& database);
 

@@ -18,15 +18,6 @@
 
 // The prompt for entities.
 
-namespace {
-
-OdDbObjectId newest_entity(const OdDbDatabase& database) {
-  const std::vector<OdDbObjectId> entities = host::pickable_entities(database);
-  return entities.empty() ? OdDbObjectId() : entities.back();
-}
-
-}  // namespace
-
 int HostPromptLoop::select(std::u16string_view prompt, unsigned mode_flags, HostSelectionSet& picked) {
   picked.clear();
   if (m_selection_answer && !std::exchange(m_selection_answered, true))
@@ -88,7 +79,7 @@ void HostPromptLoop::addFound(const std::vector<OdDbObjectId>& found, HostSelect
 bool HostPromptLoop::addNamedEntity(std::u16string_view line, unsigned mode_flags, HostSelectionSet& picked) {
   const std::u16string_view typed = host::without_outer_blanks(line);
   if (odEqualNoCase(typed, u"Last") || odEqualNoCase(typed, u"L")) {
-    const OdDbObjectId newest = newest_entity(m_document.database());
+    const OdDbObjectId newest = host::newest_pickable_entity(m_document.database());
     if (!newest.isNull()) picked.add(newest);
     return !newest.isNull();
   }
