@@ -1,9 +1,9 @@
 #include "od/db/OdDbArc.h"
 
 #include <cmath>
-#include <numbers>
 
 #include "od/db/new_record.h"
+#include "od/db/sweep.h"
 
 ODRX_DEFINE_MEMBERS(OdDbArc, OdDbEntity, "ARC")
 
@@ -55,9 +55,6 @@ OdResult OdDbArc::getPlane(OdGePlane& plane) const {
 }
 
 void OdDbArc::drawGeometry(OdGiWorldDraw& draw) const {
-  constexpr double kTurn = 2 * std::numbers::pi;
-  double sweep = std::fmod(endAngle() - startAngle(), kTurn);
-  if (sweep <= 0) sweep += kTurn;
   const OdGeVector3d start = normal().perpVector().rotatedBy(startAngle(), normal());
-  draw.geometry().circularArc(center(), radius(), normal(), start, sweep);
+  draw.geometry().circularArc(center(), radius(), normal(), start, odSweep(startAngle(), endAngle()));
 }

@@ -1,14 +1,13 @@
 #include "od/db/OdDbEllipse.h"
+#include "od/db/sweep.h"
 
 #include <cmath>
-#include <numbers>
 
 ODRX_DEFINE_MEMBERS(OdDbEllipse, OdDbEntity, "ELLIPSE")
 
 namespace {
 
 const OdDbSubclass kEllipse{"AcDbEllipse", {}};
-constexpr double kTurn = 2 * std::numbers::pi;
 
 }  // namespace
 
@@ -24,11 +23,10 @@ OdGeVector3d OdDbEllipse::normal() const { return normalOf(kEllipse); }
 
 double OdDbEllipse::startParam() const { return groups(kEllipse).real(41, 0); }
 
-double OdDbEllipse::endParam() const { return groups(kEllipse).real(42, kTurn); }
+double OdDbEllipse::endParam() const { return groups(kEllipse).real(42, kOdTurn); }
 
 void OdDbEllipse::drawGeometry(OdGiWorldDraw& draw) const {
-  double sweep = std::fmod(endParam() - startParam(), kTurn);
-  if (sweep <= 0) sweep += kTurn;
+  const double sweep = odSweep(startParam(), endParam());
   const OdGeMatrix3d fromCircle = OdGeMatrix3d::coordSystem(center(), majorAxis(), minorAxis(), normal());
   const OdGeVector3d start{std::cos(startParam()), std::sin(startParam()), 0};
   draw.geometry().pushModelTransform(fromCircle);

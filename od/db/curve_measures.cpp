@@ -9,18 +9,12 @@
 #include "od/db/OdDbLine.h"
 #include "od/db/OdDbPolyline.h"
 #include "od/db/OdDbSpline.h"
+#include "od/db/sweep.h"
 
 namespace {
 
-constexpr double kTurn = 2 * std::numbers::pi;
 /// Enough pieces that an ellipse's length is right to ten digits, by Simpson's rule.
 constexpr int kEllipsePieces = 512;
-
-/// The angle from `start` counterclockwise to `end`, above 0 and up to a whole turn.
-double swept(double start, double end) {
-  const double angle = std::fmod(end - start, kTurn);
-  return angle <= 0 ? angle + kTurn : angle;
-}
 
 /// One side of a polyline.
 struct Side {
@@ -64,7 +58,7 @@ double areaOf(const OdDbPolyline& line) {
   return std::abs(sum);
 }
 
-double ellipseSweep(const OdDbEllipse& ellipse) { return swept(ellipse.startParam(), ellipse.endParam()); }
+double ellipseSweep(const OdDbEllipse& ellipse) { return odSweep(ellipse.startParam(), ellipse.endParam()); }
 
 double lengthOf(const OdDbEllipse& ellipse) {
   const double major = ellipse.majorAxis().length(), minor = ellipse.minorAxis().length();
@@ -90,7 +84,7 @@ double lengthOf(const OdDbSpline& spline) {
   return sum;
 }
 
-double sweepOf(const OdDbArc& arc) { return swept(arc.startAngle(), arc.endAngle()); }
+double sweepOf(const OdDbArc& arc) { return odSweep(arc.startAngle(), arc.endAngle()); }
 
 }  // namespace
 
@@ -98,7 +92,7 @@ std::optional<double> odCurveLength(const OdDbEntity& entity) {
   if (const auto* line = dynamic_cast<const OdDbLine*>(&entity))
     return line->startPoint().distanceTo(line->endPoint());
   if (const auto* arc = dynamic_cast<const OdDbArc*>(&entity)) return arc->radius() * sweepOf(*arc);
-  if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity)) return circle->radius() * kTurn;
+  if (const auto* circle = dynamic_cast<const OdDbCircle*>(&entity)) return circle->radius() * kOdTurn;
   if (const auto* polyline = dynamic_cast<const OdDbPolyline*>(&entity)) return lengthOf(*polyline);
   if (const auto* ellipse = dynamic_cast<const OdDbEllipse*>(&entity)) return lengthOf(*ellipse);
   if (const auto* spline = dynamic_cast<const OdDbSpline*>(&entity)) return lengthOf(*spline);

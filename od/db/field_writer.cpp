@@ -142,6 +142,11 @@ class FieldGroups {
   const OdDbField& m_field;
 };
 
+/// Whether the object is a field that belongs to `parent`, erased or not.
+bool isFieldOf(const OdDbStub& stub, const OdDbStub& parent) {
+  return stub.record && stub.record->is("FIELD") && stub.record->owner() == parent.handle.value();
+}
+
 /// Writes a field and those within it, one after the other.
 class FieldWriter {
  public:
@@ -195,8 +200,7 @@ class FieldWriter {
   }
 
   static bool isChild(const OdDbStub& stub, const OdDbStub& parent) {
-    return stub.record && !stub.erased && stub.record->is("FIELD") &&
-           stub.record->owner() == parent.handle.value();
+    return !stub.erased && isFieldOf(stub, parent);
   }
 
   OdDbDrawing& m_drawing;
@@ -221,9 +225,7 @@ void odEraseField(OdDbDrawing& drawing, OdDbStub& stub, bool erasing) {
     handles.push_back(fields[at]->handle.value());
     for (const dxf::Handle child : odFieldChildren(*fields[at]->record)) {
       OdDbStub* inner = drawing.find(OdDbHandle(child));
-      const bool isOwn = inner && inner->record && inner->record->is("FIELD") &&
-                         inner->record->owner() == fields[at]->handle.value();
-      if (isOwn && seen.insert(inner).second) fields.push_back(inner);
+      if (inner && isFieldOf(*inner, *fields[at]) && seen.insert(inner).second) fields.push_back(inner);
     }
   }
   if (erasing) {

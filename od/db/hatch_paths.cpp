@@ -1,4 +1,5 @@
 #include "od/db/hatch_paths.h"
+#include "od/db/sweep.h"
 
 #include <cmath>
 #include <numbers>
@@ -103,10 +104,8 @@ class PathReader {
   /// Angles of clockwise edges are stored negated.
   void readSweep(double& start, double& sweep) {
     start = real(50) * kDegree;
-    double end = real(51) * kDegree;
+    sweep = odSweep(start, real(51) * kDegree);
     const bool clockwise = codeIs(73) && integer(73) == 0;
-    sweep = std::fmod(end - start, 2 * std::numbers::pi);
-    if (sweep <= 0) sweep += 2 * std::numbers::pi;
     if (!clockwise) return;
     start = -start;
     sweep = -sweep;
