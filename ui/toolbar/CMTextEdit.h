@@ -104,9 +104,9 @@ class CMTextEdit : public MTextEditor {
   void refresh();
   /// Undo and redo alone.
   void showUndo();
-  void showLetters();
-  void showBoxes();
-  void showFont();
+  void showLetters(const mtext::format::string_partial& format);
+  void showBoxes(const mtext::format::string_partial& format);
+  void showFont(const mtext::format::string_partial& format);
   void showParagraph();
   void showStacks();
   void show(int id, const look& now);

@@ -19,12 +19,6 @@ double greatest_height(const column_settings& columns) {
   return *std::max_element(columns.heights.begin(), columns.heights.end());
 }
 
-/// Columns that are told by their heights are counted by these, all others by those that were laid out.
-std::size_t count_of(const mtext::geom_multitext& text) {
-  const auto& columns = text.info.columns;
-  return columns.kind == kFixed ? columns.heights.size() : text.columns.size();
-}
-
 double total_width(double width, double gutter, std::size_t count) {
   return (width + gutter) * static_cast<double>(count) - gutter;
 }
@@ -90,6 +84,11 @@ column_values in_dialog(const column_settings& columns, dialog_type type, std::s
 }
 
 }  // namespace
+
+std::size_t count_of(const mtext::geom_multitext& text) {
+  const auto& columns = text.info.columns;
+  return columns.kind == kFixed ? columns.heights.size() : text.columns.size();
+}
 
 int checked_command(const column_settings& columns) {
   if (columns.kind == kAutomatic) return kAutoHeight;

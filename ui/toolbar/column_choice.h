@@ -23,6 +23,10 @@ enum columns_command : int {
 /// A text has no more columns than this.
 inline constexpr std::size_t kMostColumns = 100;
 
+/// How many columns a text has: those that are told by their heights are counted by these, all others by
+/// those that were laid out.
+std::size_t count_of(const mtext::geom_multitext& text);
+
 /// The row that the columns of a text are checked at.
 int checked_command(const mtext::column_settings& columns);
 

@@ -16,7 +16,6 @@ constexpr int kMenu = 151;
 constexpr int kButton = 1053;
 constexpr int kOutOfRange = 1322;
 constexpr double kLeastColumns = 2;
-constexpr int kAlertStyle = 7;
 
 bool is_columns_command(int command) { return command >= kManualHeight && command <= kColumnParameters; }
 
@@ -32,10 +31,8 @@ std::optional<mtext::column_settings> chosen_columns(int command, const ExMTextE
 }
 
 void refuse_column() {
-  IEvents* events = Get_IEvents();
-  if (!events) return;
   const auto most = static_cast<double>(kMostColumns);
-  events->box(kBoxAlert, resources::format_string(kOutOfRange, {kLeastColumns, most}), nullptr, kAlertStyle);
+  hostAlert(resources::format_string(kOutOfRange, {kLeastColumns, most}));
 }
 
 /// Columns told by their heights get one more for each caret.
@@ -49,9 +46,7 @@ void insert_column(ExMTextEditable& text) {
 }
 
 std::optional<text_change> column_insertion(ExMTextEditable& text) {
-  const auto& columns = text.text().info.columns;
-  const std::size_t count = columns.kind == 0 ? columns.heights.size() : text.text().columns.size();
-  if (count < kMostColumns) return text_change{[&text] { insert_column(text); }, kUndoMenu};
+  if (count_of(text.text()) < kMostColumns) return text_change{[&text] { insert_column(text); }, kUndoMenu};
   refuse_column();
   return {};
 }

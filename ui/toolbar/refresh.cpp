@@ -63,9 +63,10 @@ void CMTextEdit::show(int id, const look& now) {
 void CMTextEdit::refresh() {
   const refreshing_scope scope(m_refreshing);
   showUndo();
-  showLetters();
-  showBoxes();
-  showFont();
+  const mtext::format::string_partial format = editable().shownFormat();
+  showLetters(format);
+  showBoxes(format);
+  showFont(format);
   showParagraph();
   showStacks();
 }
@@ -75,8 +76,7 @@ void CMTextEdit::showUndo() {
   show(kRedo, {.enabled = m_session.undo().redo_count() > 0});
 }
 
-void CMTextEdit::showLetters() {
-  const auto format = editable().shownFormat();
+void CMTextEdit::showLetters(const mtext::format::string_partial& format) {
   // A shape font has one weight and one slant.
   const bool one_face = static_cast<bool>(format.is_shx);
   for (const auto& [id, which] : toolbar::kLetterButtons) {
@@ -88,8 +88,7 @@ void CMTextEdit::showLetters() {
   for (const int id : kForSelectedText) show(id, {.enabled = selected});
 }
 
-void CMTextEdit::showBoxes() {
-  const auto format = editable().shownFormat();
+void CMTextEdit::showBoxes(const mtext::format::string_partial& format) {
   m_sizes.edit().show(format.height ? controls::short_text(format.height->first, kSizeDigits)
                                     : std::u16string());
   m_colors.select(format.color ? std::optional(code_of_run(*format.color, editable())) : std::nullopt);
@@ -103,8 +102,7 @@ void CMTextEdit::showBoxes() {
                                         : std::optional(static_cast<std::size_t>(style - styles.begin())));
 }
 
-void CMTextEdit::showFont() {
-  const auto format = editable().shownFormat();
+void CMTextEdit::showFont(const mtext::format::string_partial& format) {
   if (!format.font) return m_fonts.select({});
   auto row = m_fonts.find(format.font->str());
   if (!row && editable().database()) {

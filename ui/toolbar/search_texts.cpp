@@ -12,7 +12,6 @@ namespace {
 
 constexpr int kButton = 2;
 constexpr int kNotInstalled = 1068;
-constexpr int kAlertStyle = 7;
 
 /// The letters around the newest caret, up to whatever is no letter.
 std::u16string word_at_caret(const ExMTextEditable& text) {
@@ -36,8 +35,8 @@ std::optional<text_change> search_texts(CMTextEdit& bar) {
     if (wanted.empty()) wanted = word_at_caret(text);
     const HostPixel at = bar.menuPlace(kButton);
     desk->search(bar.window(), wanted.c_str(), at.x, at.y);
-  } else if (IEvents* events = Get_IEvents()) {
-    events->box(kBoxAlert, host::resource_string(kNotInstalled), nullptr, kAlertStyle);
+  } else {
+    hostAlert(host::resource_string(kNotInstalled));
   }
   return {};
 }
