@@ -54,8 +54,8 @@ void ViewPainter::paint(QPainter& painter, QSize size, double ratio) {
     paintGround(size, ratio);
   painter.drawPixmap(0, 0, m_ground);
   const QRectF visible = painter.deviceTransform().mapRect(QRectF(QPointF(), QSizeF(size)));
-  paintSelection(painter, visible);
-  paintOverlay(painter, visible);
+  paintSelection(painter, visible, ratio);
+  paintOverlay(painter, visible, ratio);
 }
 
 void ViewPainter::paintGround(QSize size, double ratio) {
@@ -73,7 +73,7 @@ void ViewPainter::paintGround(QSize size, double ratio) {
   m_ground_is_stale = false;
 }
 
-void ViewPainter::paintSelection(QPainter& painter, const QRectF& visible) {
+void ViewPainter::paintSelection(QPainter& painter, const QRectF& visible, double ratio) {
   const PaintColors colors(m_background);
   m_selected = m_document->pickFirst().ids();
   for (const OdDbObjectId& id : m_selected) {
@@ -82,17 +82,17 @@ void ViewPainter::paintSelection(QPainter& painter, const QRectF& visible) {
     paintPicture(painter, *picture,
                  {.colors = colors,
                   .transform = m_pictures->frame().toDevice(m_view.gsView()),
-                  .line_width = kHighlightWidth,
+                  .line_width = kHighlightWidth * ratio,
                   .only_color = colors.highlight()},
                  visible);
   }
 }
 
-void ViewPainter::paintOverlay(QPainter& painter, const QRectF& visible) {
+void ViewPainter::paintOverlay(QPainter& painter, const QRectF& visible, double ratio) {
   m_view.overlay().setPainting(true);
   m_overlay.refresh(m_view.overlay(), m_document->database(), m_pictures->frame(), m_view.gsView());
   m_view.overlay().setPainting(false);
   const PaintSettings settings{PaintColors(m_background), m_pictures->frame().toDevice(m_view.gsView()),
-                               kLineWidth};
+                               kLineWidth * ratio};
   for (const Picture* picture : m_overlay.pictures()) paintPicture(painter, *picture, settings, visible);
 }

@@ -35,8 +35,8 @@ class ViewPainter {
 
  private:
   void paintGround(QSize size, double ratio);
-  void paintSelection(QPainter& painter, const QRectF& visible);
-  void paintOverlay(QPainter& painter, const QRectF& visible);
+  void paintSelection(QPainter& painter, const QRectF& visible, double ratio);
+  void paintOverlay(QPainter& painter, const QRectF& visible, double ratio);
 
   WindowView& m_view;
   DeskDocument* m_document = nullptr;
