@@ -69,7 +69,7 @@ std::vector<OdDbFieldPtr> number_fields(mtext::multitext& text, children_by_mark
     if (each.type() != mtext::part_field) continue;
     auto& part = static_cast<mtext::field&>(each);
     fields.push_back(children.take(part));
-    part.code = code_in(odFieldReference(u"\\_FldIdx", fields.size() - 1));
+    part.code = code_in(odFieldReference(kOdChildReference, fields.size() - 1));
   }
   return fields;
 }

@@ -34,16 +34,13 @@ std::u16string escaped(std::u16string_view letters) {
 /// The text of a container as codes, though it is written without any.
 std::u16string codes_of(const OdDbField& line) {
   const OdString code = line.getFieldCode(OdDbField::kFieldCode);
-  const std::u16string_view letters = code.str();
   std::u16string codes;
-  std::size_t done = 0;
-  while (const auto found = odFindReference(letters, u"\\_FldIdx", done)) {
-    codes += escaped(letters.substr(done, found->begin - done));
-    if (found->number < static_cast<std::uint64_t>(line.childCount()))
-      codes += line.getChild(static_cast<int>(found->number))->getFieldCode(OdDbField::kAddMarkers).str();
-    done = found->end;
+  for (const auto& [letters, reference] : odSplitAtReferences(code.str(), kOdChildReference)) {
+    codes += escaped(letters);
+    const OdDbFieldPtr child = reference ? line.childOrNull(reference->number) : OdDbFieldPtr();
+    if (child) codes += child->getFieldCode(OdDbField::kAddMarkers).str();
   }
-  return codes + escaped(letters.substr(done));
+  return codes;
 }
 
 }  // namespace

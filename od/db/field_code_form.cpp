@@ -11,27 +11,26 @@ namespace {
 OdString withReferences(const OdString& code, std::u16string_view from, std::u16string_view to,
                         const std::function<std::optional<std::uint64_t>(std::uint64_t)>& translated) {
   std::u16string result;
-  std::size_t done = 0;
-  while (const auto found = odFindReference(code.str(), from, done)) {
-    const auto number = translated(found->number);
-    result.append(code.str(), done, (number ? found->begin : found->end) - done);
-    if (number) result += odFieldReference(to, *number);
-    done = found->end;
+  for (const auto& [letters, reference] : odSplitAtReferences(code.str(), from)) {
+    result += letters;
+    if (!reference) continue;
+    const auto number = translated(reference->number);
+    result += number ? odFieldReference(to, *number) : std::u16string(reference->in(code.str()));
   }
-  return result.append(code.str(), done);
+  return result;
 }
 
 }  // namespace
 
 OdString odFieldCodeInMemory(const OdString& code, const std::vector<dxf::Handle>& objects) {
-  return withReferences(code, u"\\_ObjIdx", u"\\_ObjId", [&](std::uint64_t index) {
+  return withReferences(code, u"\\_ObjIdx", kOdObjectReference, [&](std::uint64_t index) {
     return index < objects.size() ? std::optional(objects[static_cast<std::size_t>(index)]) : std::nullopt;
   });
 }
 
 OdString odFieldCodeInFile(const OdString& code, std::vector<dxf::Handle>& objects) {
   objects.clear();
-  return withReferences(code, u"\\_ObjId", u"\\_ObjIdx", [&](std::uint64_t handle) {
+  return withReferences(code, kOdObjectReference, u"\\_ObjIdx", [&](std::uint64_t handle) {
     objects.push_back(handle);
     return std::optional<std::uint64_t>(objects.size() - 1);
   });

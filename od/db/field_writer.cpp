@@ -114,7 +114,7 @@ class FieldGroups {
     }
     const OdString code = m_field.getFieldCode(OdDbField::kFieldCode);
     const std::u16string_view subject = odReadFieldCode(code.str()).subject;
-    const auto object = odFindReference(subject, u"\\_ObjId");
+    const auto object = odFindReference(subject, kOdObjectReference);
     if (m_field.evaluatorId() == OdString(u"AcVar")) {
       integer(93, 1);
       entry(u"Variable", OdString(subject));

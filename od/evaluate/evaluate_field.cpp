@@ -10,7 +10,8 @@
 namespace {
 
 constexpr std::u16string_view kFailed = u"####";
-/// Longest sum of what the children of a container show, in characters: one child may stand in it many times.
+/// Where the children of a container have shown more than this, in characters, the others show nothing: one
+/// child may stand in it many times.
 constexpr std::size_t kLongestText = std::size_t{1} << 22;
 
 /// What an evaluator found; nothing where the code has no meaning.
@@ -22,7 +23,7 @@ Found evaluateVariable(const OdDbField&, std::u16string_view subject, const OdFi
 
 /// `Object(%<\_ObjId 171>%).Length`
 Found evaluateProperty(const OdDbField&, std::u16string_view subject, const OdFieldSource& source) {
-  const auto object = odFindReference(subject, u"\\_ObjId");
+  const auto object = odFindReference(subject, kOdObjectReference);
   const std::size_t point = subject.rfind(u").");
   if (!object || !subject.starts_with(u"Object(") || point == subject.npos || point < object->end) return {};
   return source.property(object->number, subject.substr(point + 2));
@@ -38,9 +39,9 @@ std::optional<double> numberOf(const OdDbField& field) {
 
 Found evaluateExpression(const OdDbField& field, std::u16string_view subject, const OdFieldSource&) {
   const auto operand = [&field](std::u16string_view reference) -> std::optional<double> {
-    const auto child = odFindReference(reference, u"\\_FldIdx");
-    if (!child || child->number >= static_cast<std::uint64_t>(field.childCount())) return {};
-    return numberOf(*field.getChild(static_cast<int>(child->number)));
+    const auto named = odFindReference(reference, kOdChildReference);
+    const OdDbFieldPtr child = named ? field.childOrNull(named->number) : OdDbFieldPtr();
+    return child ? numberOf(*child) : std::nullopt;
   };
   const auto value = odEvaluateExpression(subject, operand);
   return value ? Found(*value) : Found();
@@ -97,17 +98,15 @@ void odEvaluateField(const OdDbFieldPtr& field, int context, const OdFieldSource
 std::u16string odContainerText(const OdDbField& container, std::u16string (*written)(std::u16string_view)) {
   const OdString code = container.getFieldCode(OdDbField::kFieldCode);
   std::u16string text;
-  std::size_t done = 0;
   std::size_t shownUnits = 0;
-  while (const auto found = odFindReference(code.str(), u"\\_FldIdx", done)) {
-    text.append(code.str(), done, found->begin - done);
-    done = found->end;
-    if (found->number >= static_cast<std::uint64_t>(container.childCount())) continue;
-    const OdDbFieldPtr child = container.getChild(static_cast<int>(found->number));
+  for (const auto& [letters, reference] : odSplitAtReferences(code.str(), kOdChildReference)) {
+    text += letters;
+    if (!reference || shownUnits > kLongestText) continue;
+    const OdDbFieldPtr child = container.childOrNull(reference->number);
+    if (!child) continue;
     const OdString shown = child->getFieldCode(OdDbField::kEvaluatedText);
     shownUnits += shown.str().size();
-    if (shownUnits > kLongestText) break;
     text += written ? written(shown.str()) : shown.str();
   }
-  return text.append(code.str(), done);
+  return text;
 }

@@ -48,3 +48,7 @@ OdDbFieldPtr OdDbField::getChild(int index, bool) const {
   if (index < 0 || index >= childCount()) throw OdError_InvalidIndex();
   return m_children[static_cast<std::size_t>(index)];
 }
+
+OdDbFieldPtr OdDbField::childOrNull(std::uint64_t index) const {
+  return index < m_children.size() ? m_children[static_cast<std::size_t>(index)] : OdDbFieldPtr();
+}

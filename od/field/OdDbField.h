@@ -84,6 +84,8 @@ class SCRIBE_EXPORT OdDbField : public OdRxObject {
   /// The child at `index`; throws `OdError_InvalidIndex`. `forWrite` is the open mode and plays no part for a
   /// field in memory.
   OdSmartPtr<OdDbField> getChild(int index, bool forWrite = false) const;
+  /// The child at `index`, as a reference in the code names it; null where there is none.
+  OdSmartPtr<OdDbField> childOrNull(std::uint64_t index) const;
   void addChild(OdSmartPtr<OdDbField> child) { m_children.push_back(std::move(child)); }  ///< at the end
 
   /// The number of the drawing's object that the field was read from; 0 for one that is in no drawing.

@@ -40,16 +40,16 @@ class Expansion {
   void step() {
     Frame& frame = m_open.back();
     const std::u16string_view code = frame.code.str();
-    const auto found = odFindReference(code, u"\\_FldIdx", frame.next);
+    const auto found = odFindReference(code, kOdChildReference, frame.next);
     m_result.append(code.substr(frame.next, found ? found->begin - frame.next : code.npos));
     if (!found) return leave();
     frame.next = found->end;
-    insert(*frame.field, found->number, code.substr(found->begin, found->end - found->begin));
+    insert(*frame.field, found->number, found->in(code));
   }
 
   void insert(const OdDbField& holder, std::uint64_t index, std::u16string_view reference) {
-    if (index >= static_cast<std::uint64_t>(holder.childCount())) return void(m_result.append(reference));
-    const OdDbFieldPtr child = holder.getChild(static_cast<int>(index));
+    const OdDbFieldPtr child = holder.childOrNull(index);
+    if (!child) return void(m_result.append(reference));
     const std::size_t cost = child->getFieldCode(OdDbField::kFieldCode).str().size() +
                              child->getFieldCode(OdDbField::kEvaluatedText).str().size();
     if (cost > kLongest - m_inserted) return void(m_result.append(reference));

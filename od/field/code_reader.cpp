@@ -30,7 +30,7 @@ void close(std::vector<Open>& open) {
     outer.code += odWithMarkers(inner.code);
     return;
   }
-  outer.code += odFieldReference(u"\\_FldIdx", outer.children.size());
+  outer.code += odFieldReference(kOdChildReference, outer.children.size());
   outer.children.push_back(made(inner));
 }
 

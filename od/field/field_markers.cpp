@@ -31,6 +31,17 @@ std::optional<OdFieldReference> odFindReference(std::u16string_view code, std::u
   return {};
 }
 
+std::vector<OdCodePiece> odSplitAtReferences(std::u16string_view code, std::u16string_view name) {
+  std::vector<OdCodePiece> pieces;
+  std::size_t done = 0;
+  while (const auto found = odFindReference(code, name, done)) {
+    pieces.push_back({code.substr(done, found->begin - done), found});
+    done = found->end;
+  }
+  pieces.push_back({code.substr(done), {}});
+  return pieces;
+}
+
 std::u16string odFieldReference(std::u16string_view name, std::uint64_t number) {
   std::u16string text(name);
   text += u' ';

@@ -68,7 +68,7 @@ void CFieldDlg::make_code() {
     case fields::argument::none:
       break;
     case fields::argument::object:
-      m_code += u"Object(" + odFieldReference(u"\\_ObjId", handle_of(m_argument)) + u").";
+      m_code += u"Object(" + odFieldReference(kOdObjectReference, handle_of(m_argument)) + u").";
       m_code += fields::properties()[m_property];
       break;
     case fields::argument::name:

@@ -101,3 +101,10 @@ TEST(OdDbField, a_hundred_thousand_references_without_an_end_are_read_in_one_go)
   container->setFieldCode(code, OdDbField::kTextField);
   EXPECT_EQ(container->getFieldCode(OdDbField::kAddMarkers), OdString(code));
 }
+
+TEST(OdDbField, has_no_child_where_a_reference_names_none) {
+  const OdDbFieldPtr field = OdDbField::createFromCode(u"\\AcExpr %<\\AcVar A>%");
+  EXPECT_EQ(field->childOrNull(0), field->getChild(0));
+  EXPECT_FALSE(field->childOrNull(1));
+  EXPECT_FALSE(field->childOrNull(std::uint64_t{1} << 32));
+}

@@ -1,0 +1,30 @@
+#include "od/field/field_markers.h"
+
+#include <gtest/gtest.h>
+
+namespace {
+
+/// The pieces of a code at its children: each text, with the number of the reference behind it.
+std::string pieces(std::u16string_view code) {
+  std::string shown;
+  for (const auto& [text, reference] : odSplitAtReferences(code, u"\\_FldIdx")) {
+    shown += '[' + std::string(text.begin(), text.end()) + ']';
+    if (reference) shown += std::to_string(reference->number);
+  }
+  return shown;
+}
+
+}  // namespace
+
+TEST(FieldMarkers, cut_a_code_at_its_references_of_one_name) {
+  EXPECT_EQ(pieces(u"a%<\\_FldIdx 0>%bc%<\\_FldIdx 12>%%<\\_FldIdx 1>%d"), "[a]0[bc]12[]1[d]");
+  EXPECT_EQ(pieces(u"%<\\_FldIdx 3>%"), "[]3[]");
+  EXPECT_EQ(pieces(u"Object(%<\\_ObjId 3>%)"), "[Object(%<\\_ObjId 3>%)]");
+  EXPECT_EQ(pieces(u""), "[]");
+}
+
+TEST(FieldMarkers, a_marker_without_a_readable_number_is_text) {
+  EXPECT_EQ(pieces(u"%<\\_FldIdx x>%%<\\_FldIdx >%%<\\_FldIdx -1>%%<\\_FldIdx 1"),
+            "[%<\\_FldIdx x>%%<\\_FldIdx >%%<\\_FldIdx -1>%%<\\_FldIdx 1]");
+  EXPECT_EQ(pieces(u"%<\\_FldIdx %<\\_FldIdx 2>%"), "[%<\\_FldIdx ]2[]");
+}
