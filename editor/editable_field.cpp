@@ -23,11 +23,6 @@ std::u16string marker_of(const OdDbField& object) {
   return object.getFieldCode(OdDbField::kAddMarkers).str();
 }
 
-/// The code between the marker's ends.
-std::u16string code_in(const std::u16string& marker) {
-  return marker.substr(kOdMarkerBegin.size(), marker.size() - kOdMarkerBegin.size() - kOdMarkerEnd.size());
-}
-
 /// Gives each placeholder of a text its field: those that the entity holds come first, each once.
 class children_by_marker {
  public:
@@ -69,7 +64,7 @@ std::vector<OdDbFieldPtr> number_fields(mtext::multitext& text, children_by_mark
     if (each.type() != mtext::part_field) continue;
     auto& part = static_cast<mtext::field&>(each);
     fields.push_back(children.take(part));
-    part.code = code_in(odFieldReference(kOdChildReference, fields.size() - 1));
+    part.code = odWithoutMarkers(odFieldReference(kOdChildReference, fields.size() - 1));
   }
   return fields;
 }
@@ -110,7 +105,7 @@ mtext::geom_multitext ExMTextEditable::fieldParts(const OdDbFieldPtr& object,
                                                   const mtext::format::string& format) {
   const std::u16string marker = marker_of(*object);
   m_fields[marker] = object;
-  mtext::field part(format, code_in(marker));
+  mtext::field part(format, std::u16string(odWithoutMarkers(marker)));
   part.value = object->getFieldCode(OdDbField::kEvaluatedText).str();
   return mtext::to_geom(part, textHeight(), *m_finder);
 }

@@ -28,12 +28,7 @@ OdDbFieldPtr HostGivenFields::changeField(const OdDbField&, HostWindow* owner, O
 namespace host {
 
 OdDbFieldPtr evaluated_field(std::u16string_view code, OdDbDatabase& database) {
-  if (code.starts_with(kOdMarkerBegin) && code.ends_with(kOdMarkerEnd) &&
-      code.size() >= kOdMarkerBegin.size() + kOdMarkerEnd.size()) {
-    code.remove_prefix(kOdMarkerBegin.size());
-    code.remove_suffix(kOdMarkerEnd.size());
-  }
-  const OdDbFieldPtr field = OdDbField::createFromCode(code);
+  const OdDbFieldPtr field = OdDbField::createFromCode(odWithoutMarkers(code));
   oddbEvaluateFields(database, OdDbField::kAutomatic, {&field, 1});
   return field;
 }

@@ -52,3 +52,10 @@ std::u16string odFieldReference(std::u16string_view name, std::uint64_t number) 
 std::u16string odWithMarkers(std::u16string_view code) {
   return std::u16string(kOdMarkerBegin).append(code).append(kOdMarkerEnd);
 }
+
+std::u16string_view odWithoutMarkers(std::u16string_view code) {
+  constexpr std::size_t kBoth = kOdMarkerBegin.size() + kOdMarkerEnd.size();
+  const bool has_both =
+      code.size() >= kBoth && code.starts_with(kOdMarkerBegin) && code.ends_with(kOdMarkerEnd);
+  return has_both ? code.substr(kOdMarkerBegin.size(), code.size() - kBoth) : code;
+}

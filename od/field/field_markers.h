@@ -50,3 +50,7 @@ SCRIBE_EXPORT std::u16string odFieldReference(std::u16string_view name, std::uin
 
 /// `code` between the two markers of a field.
 SCRIBE_EXPORT std::u16string odWithMarkers(std::u16string_view code);
+
+/// What stands between the markers that `code` begins and ends with; a code without both as it is. Looks into
+/// `code`.
+SCRIBE_EXPORT std::u16string_view odWithoutMarkers(std::u16string_view code);

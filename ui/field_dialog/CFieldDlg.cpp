@@ -15,11 +15,6 @@ std::uint64_t handle_of(std::u16string_view digits) {
   return handle;
 }
 
-std::u16string inside(const std::u16string& marker) {
-  const std::size_t ends = kOdMarkerBegin.size() + kOdMarkerEnd.size();
-  return marker.size() < ends ? marker : marker.substr(kOdMarkerBegin.size(), marker.size() - ends);
-}
-
 /// Whether a code is that of a kind without an argument, whatever its format.
 bool is_of(const fields::kind_row& row, std::u16string_view code) {
   return row.argument == fields::argument::none && code.starts_with(row.code) &&
@@ -29,7 +24,8 @@ bool is_of(const fields::kind_row& row, std::u16string_view code) {
 }  // namespace
 
 CFieldDlg::CFieldDlg(OdDbDatabase& database, const OdDbField& field) : CFieldDlg(database) {
-  const std::u16string code = inside(field.getFieldCode(OdDbField::kAddMarkers).str());
+  const OdString marker = field.getFieldCode(OdDbField::kAddMarkers);
+  const std::u16string_view code = odWithoutMarkers(marker.str());
   const std::u16string_view format = odReadFieldCode(code).format;
   const auto kinds = fields::kinds();
   for (std::size_t kind = 0; kind < kinds.size(); ++kind) {

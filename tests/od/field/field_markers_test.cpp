@@ -28,3 +28,14 @@ TEST(FieldMarkers, a_marker_without_a_readable_number_is_text) {
             "[%<\\_FldIdx x>%%<\\_FldIdx >%%<\\_FldIdx -1>%%<\\_FldIdx 1]");
   EXPECT_EQ(pieces(u"%<\\_FldIdx %<\\_FldIdx 2>%"), "[%<\\_FldIdx ]2[]");
 }
+
+TEST(FieldMarkers, come_off_as_they_were_put_on) {
+  EXPECT_EQ(odWithoutMarkers(odWithMarkers(u"\\AcVar Date")), u"\\AcVar Date");
+  EXPECT_EQ(odWithoutMarkers(odWithMarkers(u"\\AcExpr %<a>%")), u"\\AcExpr %<a>%");
+  EXPECT_EQ(odWithoutMarkers(odWithMarkers(u"")), u"");
+}
+
+TEST(FieldMarkers, stay_where_they_do_not_stand_at_both_ends) {
+  for (const std::u16string_view code : {u"", u"date", u"%<date", u"date>%", u"a %<date>%", u"%<%", u"%<>"})
+    EXPECT_EQ(odWithoutMarkers(code), code);
+}
