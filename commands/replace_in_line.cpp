@@ -1,34 +1,40 @@
 #include "commands/replace_in_text.h"
 #include "commands/shown_matches.h"
 #include "commands/text_codes.h"
+#include "od/field/field_markers.h"
 #include "od/gi/OdGiTextCharacter.h"
 
 namespace {
+
+/// A stretch of codes, in UTF-16 units: from `first` up to, not with, `last`.
+struct code_range {
+  std::size_t first;
+  std::size_t last;
+};
 
 /// What a single-line text shows, and the codes that each unit of it comes from.
 struct shown_line {
   std::u16string codes;
   std::u16string shown;
-  std::vector<marker_range> sources;  ///< one for each unit of `shown`
+  std::vector<code_range> sources;  ///< one for each unit of `shown`
 
   explicit shown_line(const OdDbText& text) : codes(codes_of(text)) {
     std::size_t at = 0;
-    for (const marker_range& field : field_marker_ranges(codes)) {
-      add_characters(at, field.first);
-      add(kNoCharacter, field);
-      at = field.last;
+    for (const auto& [characters, field] : odSplitAtReferences(codes, kOdChildReference)) {
+      add_characters(characters, at);
+      if (!field) continue;
+      add(kNoCharacter, {field->begin, field->end});
+      at = field->end;
     }
-    add_characters(at, codes.size());
   }
 
  private:
-  void add(char16_t unit, const marker_range& source) {
+  void add(char16_t unit, code_range source) {
     shown += unit;
     sources.push_back(source);
   }
 
-  void add_characters(std::size_t first, std::size_t last) {
-    const std::u16string_view text = std::u16string_view(codes).substr(first, last - first);
+  void add_characters(std::u16string_view text, std::size_t first) {
     for (const OdGiTextCharacter& each : odReadTextCharacters(text, /*raw=*/false, kOdUsualCodePage)) {
       for (const char16_t unit : odToUtf16(each.character))
         add(unit, {first + each.first, first + each.last});

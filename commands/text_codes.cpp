@@ -45,15 +45,3 @@ void set_codes(OdDbText& text, const std::u16string& codes) {
   if (!set_field_codes(text, codes)) text.setTextString(codes);
   if (!text.isDefaultAlignment()) text.adjustAlignment();
 }
-
-std::vector<marker_range> field_marker_ranges(std::u16string_view codes) {
-  constexpr std::u16string_view kOpening = u"%<\\_FldIdx ", kClosing = u">%";
-  std::vector<marker_range> ranges;
-  for (std::size_t at = codes.find(kOpening); at != codes.npos; at = codes.find(kOpening, at)) {
-    const std::size_t closing = codes.find(kClosing, at);
-    if (closing == codes.npos) break;
-    ranges.push_back({at, closing + kClosing.size()});
-    at = ranges.back().last;
-  }
-  return ranges;
-}

@@ -42,3 +42,7 @@ TEST(CaseOfContents, a_field_keeps_its_code_and_counts_as_a_blank) {
 TEST(CaseOfLine, the_marker_of_a_field_stays_and_counts_as_a_blank) {
   EXPECT_EQ(case_of_line(u"see %<\\_FldIdx 0>%end", case_mode::title), u"See %<\\_FldIdx 0>%End");
 }
+
+TEST(CaseOfLine, a_marker_without_a_number_is_text) {
+  EXPECT_EQ(case_of_line(u"see %<\\_FldIdx x>% end", case_mode::upper), u"SEE %<\\_FLDIDX X>% END");
+}

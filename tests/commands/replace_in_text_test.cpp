@@ -104,6 +104,11 @@ TEST(ReplaceInLine, codes_that_turn_lines_on_and_off_stay) {
   EXPECT_EQ(replaced_in_line(u"%%u", u"u", u"x"), u"%%u");
 }
 
+TEST(ReplaceInLine, the_marker_of_a_field_is_no_text_and_one_without_a_number_is) {
+  EXPECT_EQ(replaced_in_line(u"F%<\\_FldIdx 0>%F", u"F", u"G"), u"G%<\\_FldIdx 0>%G");
+  EXPECT_EQ(replaced_in_line(u"F%<\\_FldIdx n>%F", u"n>", u"m>"), u"F%<\\_FldIdx m>%F");
+}
+
 TEST(ReplaceInLine, a_justified_text_stays_on_its_point) {
   command_run run;
   const auto text = run.addLineOfText(u"Hall", {});
