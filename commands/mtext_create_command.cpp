@@ -8,7 +8,7 @@ int CMTCreateCmd::runIn(HostDocument& document) {
   if (newMText(document, {}, outcome)) {
     const auto space = editing::open_current_space(document.database());
     const OdDbObjectId made = space->appendOdDbEntity(outcome.text.get());
-    if (outcome.field) outcome.text->setField(u"TEXT", *outcome.field);
+    if (outcome.field) outcome.text->setField(OdDbField::kTextKey, *outcome.field);
     hostEntUpd(made);
   }
   return outcome.status;

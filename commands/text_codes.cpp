@@ -4,9 +4,9 @@
 
 namespace {
 
-constexpr const char16_t* kFieldName = u"TEXT";
-
-OdDbFieldPtr field_of(const OdDbEntity& text) { return odCast<OdDbField>(text.getField(kFieldName)); }
+OdDbFieldPtr field_of(const OdDbEntity& text) {
+  return odCast<OdDbField>(text.getField(OdDbField::kTextKey));
+}
 
 std::vector<OdDbFieldPtr> children_of(const OdDbField& field) {
   std::vector<OdDbFieldPtr> children;
@@ -19,7 +19,7 @@ bool set_field_codes(OdDbEntity& text, const std::u16string& codes) {
   const OdDbFieldPtr field = field_of(text);
   if (!field) return false;
   field->setFieldCode(codes, OdDbField::kTextField, children_of(*field));
-  text.setField(kFieldName, *field);
+  text.setField(OdDbField::kTextKey, *field);
   return true;
 }
 

@@ -15,7 +15,7 @@ namespace {
 
 /// The field that an entity shows; null without one.
 OdDbFieldPtr field_of(const OdDbObject& entity) {
-  return odCastOrThrow<OdDbField>(entity.getField(u"TEXT", OdDb::kForRead));
+  return odCastOrThrow<OdDbField>(entity.getField(OdDbField::kTextKey, OdDb::kForRead));
 }
 
 fields_map children_of(const OdDbField& field) {

@@ -51,6 +51,8 @@ class SCRIBE_EXPORT OdDbField : public OdRxObject {
     kInvalidCode = 16
   };
 
+  /// The name under which the field of a text hangs in the text's extension dictionary.
+  static constexpr const char16_t* kTextKey = u"TEXT";
   /// What a field shows that nobody evaluated, or whose value is empty.
   static constexpr const char16_t* kNothingShown = u"----";
 
