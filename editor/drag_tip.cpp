@@ -1,11 +1,10 @@
 #include "editor/drag_tip.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 
 #include "host/translate.h"
-#include "od/base/unicode.h"
+#include "od/evaluate/format_number.h"
 
 namespace editing {
 
@@ -15,14 +14,10 @@ constexpr int kMostDecimals = 12;
 
 /// With a point in every language, and no zeros at the end of the decimals.
 std::u16string written(double number, int decimals) {
-  char digits[400];
-  const auto end =
-      std::to_chars(std::begin(digits), std::end(digits), number, std::chars_format::fixed, decimals).ptr;
-  std::string text(digits, end);
-  if (text.find('.') == text.npos) return odToUtf16(text);
-  text.erase(text.find_last_not_of('0') + 1);
-  if (text.back() == '.') text.pop_back();
-  return odToUtf16(text);
+  constexpr int kNoTrailingZeros = 8;
+  std::u16string text = odFormatFixed(number, decimals);
+  odSuppressZeros(text, kNoTrailingZeros);
+  return text;
 }
 
 /// How many decimals a thousandth of a length has.

@@ -1,48 +1,23 @@
 #include "host/distance_text.h"
 
-#include <algorithm>
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "host/document.h"
 #include "host/exports.h"
-#include "od/base/unicode.h"
 #include "od/db/OdDbDatabase.h"
+#include "od/evaluate/format_number.h"
 
 namespace host {
 namespace {
 
 constexpr double kInchesPerFoot = 12;
-/// Values of DIMZIN, and its bits for decimals.
+/// Values of DIMZIN.
 constexpr int kFeetAndInches = 3, kWithBoth = 1, kWithFeet = 2, kWithInches = 3;
-constexpr int kNoLeadingZero = 4, kNoTrailingZeros = 8;
-
-std::string fixed(double value, int decimals) {
-  std::array<char, 330> text{};  // the greatest real has 309 digits
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, decimals).ptr;
-  return {text.data(), end};
-}
-
-std::string scientific(double value, int decimals) {
-  std::array<char, 32> text{};
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::scientific, decimals)
-          .ptr;
-  std::string written(text.data(), end);
-  std::ranges::replace(written, 'e', 'E');
-  return written;
-}
 
 /// Decimals as DIMZIN wants them.
-std::string decimal(double value, const distance_format& format) {
-  std::string text = fixed(value, format.precision);
-  if ((format.zeros & kNoTrailingZeros) && text.find('.') != text.npos) {
-    text.erase(text.find_last_not_of('0') + 1);
-    if (text.back() == '.') text.pop_back();
-  }
-  if ((format.zeros & kNoLeadingZero) && text.starts_with("0.")) text.erase(0, 1);
+std::u16string decimal(double value, const distance_format& format) {
+  std::u16string text = odFormatFixed(value, format.precision);
+  odSuppressZeros(text, format.zeros);
   return text;
 }
 
@@ -61,13 +36,12 @@ struct mixed_number {
       denominator /= 2;
     }
   }
-  bool isZero() const { return whole == 0 && numerator == 0; }
 
-  std::string text(const distance_format& format, bool with_zero) const {
-    const std::string fraction = std::to_string(numerator) + '/' + std::to_string(denominator);
-    if (numerator == 0) return fixed(whole, 0);
+  std::u16string text(const distance_format& format, bool with_zero) const {
+    const std::u16string fraction = odFormatInteger(numerator) + u'/' + odFormatInteger(denominator);
+    if (numerator == 0) return odFormatFixed(whole, 0);
     if (whole == 0 && !with_zero) return fraction;
-    return fixed(whole, 0) + (format.typed_form ? '-' : ' ') + fraction;
+    return odFormatFixed(whole, 0) + (format.typed_form ? u'-' : u' ') + fraction;
   }
 };
 
@@ -87,33 +61,33 @@ struct feet_and_inches {
 
 /// Puts feet and inches together; `inches` is the text of the inches, given whether their zero is wanted.
 template <class InchText>
-std::string joined(const feet_and_inches& length, const distance_format& format, InchText inches) {
+std::u16string joined(const feet_and_inches& length, const distance_format& format, InchText inches) {
   const int zeros = format.zeros & kFeetAndInches;
   const bool with_feet = length.feet != 0 || zeros == kWithBoth || zeros == kWithFeet;
   const bool with_inches = length.inches != 0 || zeros == kWithBoth || zeros == kWithInches || !with_feet;
-  std::string text;
-  if (with_feet) text = fixed(length.feet, 0) + '\'';
+  std::u16string text;
+  if (with_feet) text = odFormatFixed(length.feet, 0) + u'\'';
   if (!with_inches) return text;
-  if (with_feet && !format.typed_form) text += '-';
-  return text + inches(with_feet || zeros == kWithBoth || zeros == kWithInches) + '"';
+  if (with_feet && !format.typed_form) text += u'-';
+  return text + inches(with_feet || zeros == kWithBoth || zeros == kWithInches) + u'"';
 }
 
-std::string engineering(double value, const distance_format& format) {
+std::u16string engineering(double value, const distance_format& format) {
   const feet_and_inches length(value, std::pow(10.0, -format.precision));
   return joined(length, format, [&](bool) { return decimal(length.inches, format); });
 }
 
-std::string architectural(double value, const distance_format& format) {
+std::u16string architectural(double value, const distance_format& format) {
   const feet_and_inches length(value, std::ldexp(1.0, -format.precision));
   return joined(length, format, [&](bool with_zero) {
     return mixed_number(length.inches, format.precision).text(format, with_zero);
   });
 }
 
-std::string written(double value, const distance_format& format) {
+std::u16string written(double value, const distance_format& format) {
   switch (format.units) {
     case length_units::scientific:
-      return scientific(value, format.precision);
+      return odLengthDigits(value, length_units::scientific, format.precision);
     case length_units::engineering:
       return engineering(value, format);
     case length_units::architectural:
@@ -145,9 +119,9 @@ distance_format distance_format_of(const OdDbDatabase& database) {
 }
 
 std::u16string distance_text(double distance, const distance_format& format) {
-  const std::string text = written(std::abs(distance), format);
-  const bool is_zero = text.find_first_of("123456789") == text.npos;
-  return odToUtf16(distance < 0 && !is_zero ? '-' + text : text);
+  const std::u16string text = written(std::abs(distance), format);
+  const bool is_zero = text.find_first_of(u"123456789") == text.npos;
+  return distance < 0 && !is_zero ? u'-' + text : text;
 }
 
 }  // namespace host

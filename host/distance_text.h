@@ -4,18 +4,14 @@
 #include <string>
 #include <string_view>
 
+#include "od/evaluate/length_units.h"
+
 class OdDbDatabase;
 
 namespace host {
 
 /// Manners of writing a distance, by their number in the system variable LUNITS.
-enum class length_units : int {
-  scientific = 1,     ///< 1.55E+01
-  decimal = 2,        ///< 15.50
-  engineering = 3,    ///< 1'-3.50"
-  architectural = 4,  ///< 1'-3 1/2"
-  fractional = 5,     ///< 15 1/2
-};
+using length_units = OdLengthUnits;
 
 /// How a drawing writes its distances.
 struct distance_format {

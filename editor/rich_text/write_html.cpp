@@ -1,10 +1,9 @@
 #include "editor/rich_text/write_html.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 
 #include "mtext/format.h"
+#include "od/base/printed_number.h"
 
 namespace rich {
 
@@ -36,10 +35,7 @@ std::u16string escaped(std::u16string_view text) {
 }
 
 std::u16string two_digits(double value) {
-  std::array<char, 64> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), std::round(value * 100) / 100,
-                                 std::chars_format::general, 6);
-  return {digits.data(), end.ptr};
+  return odPrintedNumber(std::round(value * 100) / 100, std::chars_format::general, 6);
 }
 
 std::u16string color_of(const format::text_color& color) {

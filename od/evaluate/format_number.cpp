@@ -6,6 +6,7 @@
 #include <cmath>
 #include <numbers>
 
+#include "od/base/printed_number.h"
 #include "od/evaluate/expression.h"
 #include "od/evaluate/format_options.h"
 #include "od/evaluate/length_units.h"
@@ -16,25 +17,9 @@ constexpr int kMostDigits = 8;
 constexpr int kSuppressLeading = 4;
 constexpr int kSuppressTrailing = 8;
 
-std::u16string widened(const char* begin, const char* end) { return {begin, end}; }
-
 /// Where the digits behind the point end; the point's place where there are none.
 std::size_t endOfDigits(const std::u16string& text, std::size_t point) {
   return std::min(text.size(), text.find_first_not_of(u"0123456789", point + 1));
-}
-
-void suppressZeros(std::u16string& text, int which) {
-  const std::size_t point = text.find(u'.');
-  if (point == text.npos) return;
-  if (which & kSuppressTrailing) {
-    const std::size_t end = endOfDigits(text, point);
-    std::size_t kept = end;
-    while (text[kept - 1] == u'0') --kept;
-    if (kept == point + 1) kept = point;
-    text.erase(kept, end - kept);
-  }
-  const std::size_t first = text.starts_with(u'-') ? 1 : 0;
-  if ((which & kSuppressLeading) && text.substr(first, 2) == u"0.") text.erase(first, 1);
 }
 
 /// The sign with that code; nothing for a code that is none.
@@ -64,7 +49,7 @@ int plainDigits(std::u16string_view format) {
 
 /// Zeros, signs, and what stands around the number.
 std::u16string finished(std::u16string text, std::u16string_view format) {
-  suppressZeros(text, odFormatNumber(format, u"zs", 0));
+  odSuppressZeros(text, odFormatNumber(format, u"zs", 0));
   separate(text, format);
   const auto around = odFormatOption(format, u"ps");
   if (!around) return text;
@@ -107,16 +92,27 @@ std::u16string bearing(double degrees, int precision) {
 
 std::u16string odFormatInteger(std::int64_t value) {
   std::array<char, 24> digits;
-  return widened(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr);
+  return {digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), value).ptr};
 }
 
 std::u16string odFormatFixed(double value, int digits) {
-  std::array<char, 400> text;  // the largest double has 309 digits
-  const auto end =
-      std::to_chars(text.data(), text.data() + text.size(), value, std::chars_format::fixed, digits);
-  std::u16string result = widened(text.data(), end.ptr);
+  std::u16string result = odPrintedNumber(value, std::chars_format::fixed, digits);
   if (result.starts_with(u'-') && result.find_first_of(u"123456789") == result.npos) result.erase(0, 1);
   return result;
+}
+
+void odSuppressZeros(std::u16string& text, int which) {
+  const std::size_t point = text.find(u'.');
+  if (point == text.npos) return;
+  if (which & kSuppressTrailing) {
+    const std::size_t end = endOfDigits(text, point);
+    std::size_t kept = end;
+    while (text[kept - 1] == u'0') --kept;
+    if (kept == point + 1) kept = point;
+    text.erase(kept, end - kept);
+  }
+  const std::size_t first = text.starts_with(u'-') ? 1 : 0;
+  if ((which & kSuppressLeading) && text.substr(first, 2) == u"0.") text.erase(first, 1);
 }
 
 std::u16string odFormatLength(double value, std::u16string_view format, const OdFieldUnits& units) {

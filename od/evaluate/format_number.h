@@ -12,6 +12,10 @@ std::u16string odFormatInteger(std::int64_t value);
 /// Decimal digits with a point and `digits` (0 to 15) behind it, whatever the machine's language.
 std::u16string odFormatFixed(double value, int digits);
 
+/// Takes zeros out of a number in digits, by a sum of: 4 the one in front of the point, 8 those behind the
+/// last other digit, and a point that is left without digits.
+void odSuppressZeros(std::u16string& text, int which);
+
 /// A length by a field's format: `%lu` units (6: those of the drawing), `%pr` precision, `%ct8[f]` factor,
 /// `%zs` suppressed zeros (4 in front, 8 behind), `%ds` and `%th` codes of the decimal and the thousands
 /// sign,

@@ -1,10 +1,9 @@
 #include "od/evaluate/length_units.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <numeric>
 
+#include "od/base/printed_number.h"
 #include "od/evaluate/format_number.h"
 
 namespace {
@@ -14,10 +13,7 @@ constexpr double kInchesAFoot = 12;
 constexpr double kMostWholeInches = 1e12;
 
 std::u16string scientific(double value, int precision) {
-  std::array<char, 64> digits;
-  const auto end = std::to_chars(digits.data(), digits.data() + digits.size(), value,
-                                 std::chars_format::scientific, precision);
-  std::u16string text(digits.data(), end.ptr);
+  std::u16string text = odPrintedNumber(value, std::chars_format::scientific, precision);
   for (char16_t& unit : text)
     if (unit == u'e') unit = u'E';
   return text;

@@ -2,11 +2,10 @@
 
 #include <locale.h>
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <cstdlib>
 
+#include "od/base/printed_number.h"
 #include "od/base/unicode.h"
 
 namespace controls {
@@ -16,13 +15,6 @@ namespace {
 locale_t point_locale() {
   static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
   return locale;
-}
-
-template <class... Form>
-std::u16string printed(double value, Form... form) {
-  std::array<char, 330> text{};  // the greatest real has 309 digits
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), value, form...).ptr;
-  return {text.data(), end};
 }
 
 }  // namespace
@@ -41,11 +33,11 @@ float leading_number(std::u16string_view text) {
 }
 
 std::u16string fixed_text(double value, int digits) {
-  return printed(value, std::chars_format::fixed, digits);
+  return odPrintedNumber(value, std::chars_format::fixed, digits);
 }
 
 std::u16string short_text(double value, int digits) {
-  return printed(value, std::chars_format::general, digits);
+  return odPrintedNumber(value, std::chars_format::general, digits);
 }
 
 }  // namespace controls

@@ -1,11 +1,10 @@
 #include "ui/resources/message_format.h"
 
-#include <array>
-#include <charconv>
 #include <cmath>
 #include <stdexcept>
 
 #include "host/translate.h"
+#include "od/base/printed_number.h"
 #include "od/base/unicode.h"
 
 namespace resources {
@@ -35,20 +34,14 @@ int precision_of(std::u16string_view placeholder) {
   return point == placeholder.npos ? unless_told : std::stoi('0' + odToUtf8(placeholder.substr(point + 1)));
 }
 
-std::u16string number_text(double number, std::chars_format form, int digits) {
-  std::array<char, 330> text{};  // the greatest real has 309 digits
-  const auto end = std::to_chars(text.data(), text.data() + text.size(), number, form, digits).ptr;
-  return {text.data(), end};
-}
-
 std::u16string number_text(double number, std::u16string_view placeholder) {
   switch (placeholder.back()) {
     case u'd':
-      return number_text(std::round(number), std::chars_format::fixed, 0);
+      return odPrintedNumber(std::round(number), std::chars_format::fixed, 0);
     case u'f':
-      return number_text(number, std::chars_format::fixed, precision_of(placeholder));
+      return odPrintedNumber(number, std::chars_format::fixed, precision_of(placeholder));
     default:
-      return number_text(number, std::chars_format::general, precision_of(placeholder));
+      return odPrintedNumber(number, std::chars_format::general, precision_of(placeholder));
   }
 }
 
