@@ -31,6 +31,15 @@ std::uint32_t flags_of(const HostTextPattern::Options& options) {
   return flags;
 }
 
+/// Moves to the next match that is not empty; false behind the last.
+bool find_next(icu::RegexMatcher& matcher) {
+  UErrorCode error = U_ZERO_ERROR;
+  bool found = matcher.find(error);
+  while (found && matcher.start(error) == matcher.end(error)) found = matcher.find(error);
+  check(error, "The text cannot be searched.");
+  return found;
+}
+
 /// What takes the place of one match after the other.
 class Replacements {
  public:
@@ -88,7 +97,10 @@ HostTextPattern::~HostTextPattern() = default;
 HostTextPattern::HostTextPattern(HostTextPattern&&) noexcept = default;
 HostTextPattern& HostTextPattern::operator=(HostTextPattern&&) noexcept = default;
 
-bool HostTextPattern::isIn(std::u16string_view text) const { return !matches(text).empty(); }
+bool HostTextPattern::isIn(std::u16string_view text) const {
+  const icu::UnicodeString searched = of(text);
+  return find_next(*m_compiled->matcher(searched));
+}
 
 std::vector<HostTextPattern::Match> HostTextPattern::matches(
     std::u16string_view text, std::optional<std::u16string_view> replacement) const {
@@ -97,13 +109,11 @@ std::vector<HostTextPattern::Match> HostTextPattern::matches(
   Replacements replacements(*matcher, replacement.value_or(u""), m_compiled->is_expression);
   std::vector<Match> found;
   UErrorCode error = U_ZERO_ERROR;
-  while (matcher->find(error)) {
+  while (find_next(*matcher)) {
     Match match{
         static_cast<std::size_t>(matcher->start(error)), static_cast<std::size_t>(matcher->end(error)), {}};
-    if (match.first == match.last) continue;
     if (replacement) match.replacement = replacements.next();
     found.push_back(std::move(match));
   }
-  check(error, "The text cannot be searched.");
   return found;
 }

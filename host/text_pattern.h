@@ -29,6 +29,7 @@ class HostTextPattern {
   HostTextPattern(HostTextPattern&&) noexcept;
   HostTextPattern& operator=(HostTextPattern&&) noexcept;
 
+  /// Whether it stands anywhere; throws as `matches` does, but looks no further than the first place.
   bool isIn(std::u16string_view text) const;
   /// All places, from first to last; none overlaps another and none is empty. In a `replacement` for an
   /// expression `$1` is its first group and `\$` a dollar sign; otherwise it is taken as it stands. Throws

@@ -69,3 +69,18 @@ TEST(TextPattern, an_expression_that_never_ends_is_given_up) {
   const std::u16string text(40, u'a');
   EXPECT_THROW(HostTextPattern(u"(a+)+b", kExpression).matches(text), std::invalid_argument);
 }
+
+TEST(TextPattern, is_in_a_text_where_it_has_one_place_that_is_not_empty) {
+  EXPECT_TRUE(HostTextPattern(u"b", {}).isIn(u"abc"));
+  EXPECT_FALSE(HostTextPattern(u"d", {}).isIn(u"abc"));
+  EXPECT_FALSE(HostTextPattern(u"x*", kExpression).isIn(u"abc"));
+  EXPECT_TRUE(HostTextPattern(u"x*", kExpression).isIn(u"abx"));
+}
+
+TEST(TextPattern, what_stands_behind_the_first_place_is_not_searched_to_tell_that_it_is_in_a_text) {
+  const std::u16string text = u"ab" + std::u16string(40, u'a');
+  const HostTextPattern endless(u"(a+)+b", kExpression);
+  EXPECT_TRUE(endless.isIn(text));
+  EXPECT_THROW(endless.matches(text), std::invalid_argument);
+  EXPECT_THROW(endless.isIn(text.substr(2)), std::invalid_argument);
+}
