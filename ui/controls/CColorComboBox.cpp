@@ -44,7 +44,7 @@ controls::color_swatch CColorComboBox::rowSwatch(std::size_t row) const {
 
 void CColorComboBox::setLayerColor(color_code layer) {
   m_layer_code = layer;
-  if (shown) shown();
+  if (listed) listed();
 }
 
 void CColorComboBox::select(std::optional<color_code> code) {
@@ -73,7 +73,9 @@ color_code CColorComboBox::askForColor() {
 }
 
 void CColorComboBox::selectOrAdd(color_code code) {
-  if (std::find(m_codes.begin(), m_codes.end(), code) == m_codes.end())
+  if (std::find(m_codes.begin(), m_codes.end(), code) == m_codes.end()) {
     m_codes.insert(m_codes.end() - 1, code);
+    if (listed) listed();
+  }
   select(code);
 }

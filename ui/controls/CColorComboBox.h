@@ -22,7 +22,9 @@ class CColorComboBox {
   std::function<bool(const OdCmEntityColor&)> changed;
   /// Behind "Custom..."; without it that row changes nothing.
   color_dialog pick;
-  /// Told when rows or selection changed; may be empty.
+  /// Told when the rows or their swatches changed; may be empty.
+  std::function<void()> listed;
+  /// Told when the selection was set; may be empty.
   std::function<void()> shown;
 
   /// The codes of the rows; that of "Custom..." is the last one.

@@ -92,14 +92,15 @@ QWidget* styleBox(CMTextEdit::StyleBox& styles, QWidget* parent) {
 
 QWidget* colorBox(CColorComboBox& colors, QWidget* parent) {
   auto* box = new ListBox(parent);
-  colors.shown = [box, &colors] {
+  colors.shown = [box, &colors] { box->select(number(colors.selected())); };
+  colors.listed = [box, &colors] {
     std::vector<ListBox::Row> rows;
     for (std::size_t row = 0; row < colors.codes().size(); ++row)
       rows.push_back({toQt(colors.rowText(row)), swatchIcon(colors.rowSwatch(row))});
     box->setRows(rows);
-    box->select(number(colors.selected()));
+    colors.shown();
   };
-  colors.shown();
+  colors.listed();
   connectChoice(*box, colors);
   return box;
 }

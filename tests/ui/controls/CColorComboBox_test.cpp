@@ -139,3 +139,21 @@ TEST(ColorCode, a_run_of_text_has_the_code_of_its_color) {
   EXPECT_EQ(controls::code_of(controls::text_color_of(OdCmEntityColor(1, 2, 3))), 0x2010203U);
   EXPECT_EQ(controls::text_color_of(OdCmEntityColor(1, 2, 3)).top, 0);
 }
+
+TEST(ColorComboBox, its_rows_are_told_apart_from_its_selection) {
+  owned_colors colors;
+  int listed = 0, shown = 0;
+  colors.box.listed = [&] { ++listed; };
+  colors.box.shown = [&] { ++shown; };
+  colors.box.select(controls::index_code(1));
+  colors.box.choose(2);
+  EXPECT_EQ(listed, 0);
+  EXPECT_EQ(shown, 2);
+  colors.box.setLayerColor(controls::index_code(3));
+  EXPECT_EQ(listed, 1);
+  colors.picked = OdCmEntityColor(10, 20, 30);
+  colors.box.choose(colors.custom());
+  EXPECT_EQ(listed, 2);
+  colors.box.choose(colors.custom());
+  EXPECT_EQ(listed, 2);
+}

@@ -122,6 +122,16 @@ TEST(ToolbarWidget, choosing_a_row_of_a_box_is_the_users_and_showing_one_is_not)
   EXPECT_EQ(shown.text.codes(), "ab");
 }
 
+TEST(ToolbarWidget, the_colors_are_listed_once_and_not_again_for_each_selection) {
+  text_with_window shown("ab|");
+  auto* colors = shown.control<ListBox>(1029);
+  int listed = 0;
+  QObject::connect(colors->model(), &QAbstractItemModel::rowsInserted, [&listed] { ++listed; });
+  shown.bar.colors().select(controls::index_code(1));
+  EXPECT_EQ(colors->currentText(), "Red");
+  EXPECT_EQ(listed, 0);
+}
+
 TEST(ToolbarWidget, the_arrows_and_keys_of_a_number_move_it_by_a_step) {
   text_with_window shown("[ab]");
   auto* oblique = shown.control<QLineEdit>(1040);
