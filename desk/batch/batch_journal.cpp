@@ -148,14 +148,8 @@ void BatchJournal::finish() { append({{kFinished, true}}); }
 std::streamoff BatchJournal::append(const json& line) {
   const std::string bytes = lineOf(line);
   const std::streamoff place = ::lseek(m_file.number(), 0, SEEK_END);
-  std::string_view rest = bytes;
-  while (!rest.empty()) {
-    const ssize_t count = ::write(m_file.number(), rest.data(), rest.size());
-    if (count < 0 && errno == EINTR) continue;
-    if (count < 0)
-      throw FileError(m_path, std::string("it cannot be written (") + std::strerror(errno) + ").");
-    rest.remove_prefix(static_cast<std::size_t>(count));
-  }
+  if (!m_file.write(bytes))
+    throw FileError(m_path, std::string("it cannot be written (") + std::strerror(errno) + ").");
   if (::fsync(m_file.number()) != 0) throw FileError(m_path, "it cannot be written to the disk.");
   return place;
 }

@@ -2,6 +2,7 @@
 
 #include <unistd.h>
 
+#include <string_view>
 #include <utility>
 
 namespace dxf {
@@ -17,6 +18,9 @@ class Descriptor {
   }
   bool is_open() const { return number_ >= 0; }
   int number() const { return number_; }
+  /// Writes all the bytes, however often the system stops in between; false, with the reason in `errno`,
+  /// where it refuses.
+  bool write(std::string_view bytes) const;
   /// False where closing reports that the bytes did not arrive.
   bool close() {
     const int closing = number_;

@@ -18,16 +18,6 @@ fs::path folder_of(const fs::path& path) {
   return path.has_parent_path() ? path.parent_path() : fs::path(".");
 }
 
-bool write_all(int descriptor, std::string_view bytes) {
-  while (!bytes.empty()) {
-    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) return false;
-    bytes.remove_prefix(static_cast<std::size_t>(written));
-  }
-  return true;
-}
-
 mode_t mode_for_new_files() {
   const mode_t mask = ::umask(0);
   ::umask(mask);
@@ -66,7 +56,7 @@ void ReplacedFile::fill(Descriptor file, std::string_view bytes) const {
   if (old_ && ::fchown(file.number(), old_->st_uid, old_->st_gid) != 0) errno = 0;
   const mode_t mode = old_ ? old_->st_mode & 07777 : mode_for_new_files();
   if (::fchmod(file.number(), mode) != 0) fail_with_errno(path_, "the permissions cannot be set");
-  if (!write_all(file.number(), bytes) || ::fsync(file.number()) != 0 || !file.close())
+  if (!file.write(bytes) || ::fsync(file.number()) != 0 || !file.close())
     fail_with_errno(path_, "the drawing cannot be written");
 }
 

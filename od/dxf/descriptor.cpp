@@ -1,0 +1,17 @@
+#include "od/dxf/descriptor.h"
+
+#include <cerrno>
+
+namespace dxf {
+
+bool Descriptor::write(std::string_view bytes) const {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(number_, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+}  // namespace dxf
