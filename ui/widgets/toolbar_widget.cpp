@@ -42,7 +42,7 @@ constexpr box_width kBoxWidths[] = {{1015, 110}, {1009, 150}, {1008, 64}, {1029,
 QString tooltipOf(const toolbar_control& row) {
   const std::u16string_view keys = row.keys;
   const QString text = qtString(row.text);
-  return keys.empty() ? text : QString("%1 (%2)").arg(text, toQt(Supp_Translate(keys)));
+  return keys.empty() ? text : QString("%1 (%2)").arg(text, qtTranslated(keys));
 }
 
 toolbar::screen_box boxOf(const QRect& rect) {

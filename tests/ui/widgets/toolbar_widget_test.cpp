@@ -132,6 +132,10 @@ TEST(ToolbarWidget, the_colors_are_listed_once_and_not_again_for_each_selection)
   EXPECT_EQ(listed, 0);
 }
 
+TEST(ToolbarWidget, a_text_that_begins_with_a_byte_order_mark_keeps_it_on_its_way_to_the_toolkit) {
+  EXPECT_EQ(fromQt(toQt(u"\ufeffa")), u"\ufeffa");
+}
+
 TEST(ToolbarWidget, the_arrows_and_keys_of_a_number_move_it_by_a_step) {
   text_with_window shown("[ab]");
   auto* oblique = shown.control<QLineEdit>(1040);

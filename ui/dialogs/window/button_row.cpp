@@ -6,6 +6,7 @@
 #include <QShortcut>
 
 #include "ui/dialogs/window/labels.h"
+#include "ui/widgets/qt_text.h"
 
 namespace dialogs {
 namespace {
@@ -36,8 +37,8 @@ QWidget* button_row(QDialog& dialog, const ButtonRow& row) {
   auto* const layout = new QHBoxLayout(widget);
   layout->setContentsMargins({});
   layout->addStretch();
-  QPushButton* const accept = button(*widget, kAcceptControl, plain_label(row.accept_label));
-  QPushButton* const cancel = button(*widget, kCancelControl, plain_label(kCancel));
+  QPushButton* const accept = button(*widget, kAcceptControl, qtString(row.accept_label));
+  QPushButton* const cancel = button(*widget, kCancelControl, qtString(kCancel));
   accept->setDefault(true);
   layout->addWidget(accept);
   layout->addWidget(cancel);

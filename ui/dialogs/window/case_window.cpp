@@ -5,6 +5,7 @@
 
 #include "ui/dialogs/window/button_row.h"
 #include "ui/dialogs/window/labels.h"
+#include "ui/widgets/qt_text.h"
 
 namespace {
 
@@ -13,7 +14,7 @@ constexpr int kTitle = 1340;
 }  // namespace
 
 CaseWindow::CaseWindow(CCaseDlg& dialog, QWidget* parent) : QDialog(parent), m_dialog(dialog) {
-  setWindowTitle(dialogs::plain_label(kTitle));
+  setWindowTitle(qtString(kTitle));
   const auto labels = dialogs::labels_of({1341, 1342, 1343, 1344, 1345});
   auto* const layout = new QVBoxLayout(this);
   for (std::size_t i = 0; i < m_radios.size(); ++i) {

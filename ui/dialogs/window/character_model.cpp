@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "ui/dialogs/character_names.h"
+#include "ui/widgets/qt_text.h"
 
 void CharacterModel::setCharacters(std::vector<char32_t> characters) {
   beginResetModel();
@@ -34,7 +35,7 @@ QVariant CharacterModel::data(const QModelIndex& index, int role) const {
   const char32_t character = characterAt(index);
   if (character == 0) return {};
   if (role == Qt::ToolTipRole || role == Qt::AccessibleTextRole)
-    return QString::fromStdU16String(dialogs::character_label(character));
+    return toQt(dialogs::character_label(character));
   return {};
 }
 

@@ -12,6 +12,7 @@
 #include "ui/dialogs/window/button_row.h"
 #include "ui/dialogs/window/field_edit.h"
 #include "ui/dialogs/window/labels.h"
+#include "ui/widgets/qt_text.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ ColumnsWindow::ColumnsWindow(CMTextColumnsDlg& dialog, QWidget* parent) : QDialo
 }
 
 void ColumnsWindow::build() {
-  setWindowTitle(dialogs::plain_label(kTitle));
+  setWindowTitle(qtString(kTitle));
   const Labels labels = dialogs::labels_of({kDynamic, kAutoHeight, kManualHeight, kStatic, kNone, kCount,
                                             kHeight, kColumn, kGutter, kTotal, dialogs::kHelpLabel});
   auto* const upper = new QHBoxLayout;
@@ -82,7 +83,7 @@ QLayout* ColumnsWindow::fieldColumn(const Labels& labels) {
     layout->addWidget(edit(which, labels.at(label)));
     column->addWidget(box);
   }
-  auto* const widths = new QGroupBox(dialogs::plain_label(kWidth), this);
+  auto* const widths = new QGroupBox(qtString(kWidth), this);
   auto* const form = new QFormLayout(widths);
   for (const auto& [which, label] : {std::pair(field::column_width, kColumn),
                                      std::pair(field::gutter, kGutter), std::pair(field::total, kTotal)})
@@ -124,7 +125,7 @@ void ColumnsWindow::choose(int control) {
 
 bool ColumnsWindow::leave(field which) {
   const column_values before = m_dialog.values();
-  const bool accepted = m_dialog.leave(which, m_edits.at(which)->text().toStdU16String());
+  const bool accepted = m_dialog.leave(which, fromQt(m_edits.at(which)->text()));
   m_dialog.values() == before ? showField(which) : showAll();
   return accepted;
 }
@@ -154,7 +155,7 @@ void ColumnsWindow::showAll() {
 void ColumnsWindow::showField(field which) {
   FieldEdit& edit = *m_edits.at(which);
   edit.setEnabled(m_dialog.isEnabled(which));
-  const QString text = QString::fromStdU16String(m_dialog.shown(which));
+  const QString text = toQt(m_dialog.shown(which));
   if (edit.text() != text) edit.setText(text);
 }
 

@@ -5,6 +5,7 @@
 
 #include "host/translate.h"
 #include "ui/dialogs/mnemonics.h"
+#include "ui/widgets/qt_text.h"
 
 namespace dialogs {
 
@@ -13,12 +14,9 @@ std::map<int, QString> labels_of(std::initializer_list<int> numbers) {
   for (const int number : numbers) texts.push_back(host::resource_string(number));
   texts = with_mnemonics(std::move(texts));
   std::map<int, QString> labels;
-  for (auto text = texts.begin(); const int number : numbers)
-    labels.emplace(number, QString::fromStdU16String(*text++));
+  for (auto text = texts.begin(); const int number : numbers) labels.emplace(number, toQt(*text++));
   return labels;
 }
-
-QString plain_label(int number) { return QString::fromStdU16String(host::resource_string(number)); }
 
 void name_control(QWidget& control, int number, const QString& label) {
   control.setObjectName(QString::number(number));

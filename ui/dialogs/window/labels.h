@@ -12,9 +12,6 @@ namespace dialogs {
 /// The strings of these numbers in the user's language, each with a mnemonic of its own.
 std::map<int, QString> labels_of(std::initializer_list<int> numbers);
 
-/// The string of a number in the user's language, without a mnemonic.
-QString plain_label(int number);
-
 /// Names a control by its number, and tells those who do not see the dialog what it is: `label` may have a
 /// mnemonic and a colon.
 void name_control(QWidget& control, int number, const QString& label);

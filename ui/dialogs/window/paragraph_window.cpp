@@ -11,6 +11,7 @@
 #include "ui/dialogs/window/button_row.h"
 #include "ui/dialogs/window/field_edit.h"
 #include "ui/dialogs/window/labels.h"
+#include "ui/widgets/qt_text.h"
 
 namespace {
 
@@ -32,11 +33,11 @@ ParagraphWindow::ParagraphWindow(CParagraphDlg& dialog, QWidget* parent)
 }
 
 void ParagraphWindow::build() {
-  setWindowTitle(dialogs::plain_label(kTitle));
+  setWindowTitle(qtString(kTitle));
   const auto labels = dialogs::labels_of({kEnabled, kStyle, kValue});
   m_enabled->setCheckable(true);
   m_enabled->setTitle(labels.at(kEnabled));
-  for (const int name : kStyleNames) m_style->addItem(dialogs::plain_label(name));
+  for (const int name : kStyleNames) m_style->addItem(qtString(name));
   auto* const form = new QFormLayout(m_enabled);
   form->addRow(labels.at(kStyle), m_style);
   form->addRow(labels.at(kValue), m_value);
@@ -67,7 +68,7 @@ void ParagraphWindow::connectControls() {
 }
 
 bool ParagraphWindow::leaveValue() {
-  if (m_dialog.leaveValue(m_value->text().toStdU16String())) return true;
+  if (m_dialog.leaveValue(fromQt(m_value->text()))) return true;
   m_value->setFocus();
   m_value->selectAll();
   return false;
@@ -78,7 +79,7 @@ void ParagraphWindow::showAll() {
   const auto row = std::ranges::find(dialogs::kSpacingStyles, m_dialog.style());
   const bool has_row = row != std::end(dialogs::kSpacingStyles);
   m_style->setCurrentIndex(has_row ? static_cast<int>(row - std::begin(dialogs::kSpacingStyles)) : -1);
-  const QString value = QString::fromStdU16String(m_dialog.valueText());
+  const QString value = toQt(m_dialog.valueText());
   if (m_value->text() != value) m_value->setText(value);
 }
 

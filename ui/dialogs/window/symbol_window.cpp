@@ -15,6 +15,7 @@
 #include "ui/dialogs/window/character_grid.h"
 #include "ui/dialogs/window/character_preview.h"
 #include "ui/dialogs/window/labels.h"
+#include "ui/widgets/qt_text.h"
 
 namespace {
 
@@ -42,7 +43,7 @@ SymbolWindow::SymbolWindow(CSymbolDlg& dialog, QWidget* parent)
 }
 
 void SymbolWindow::build() {
-  setWindowTitle(dialogs::plain_label(kTitle));
+  setWindowTitle(qtString(kTitle));
   const auto labels = dialogs::labels_of({kFind, kBlock, kCharacters, kRecent});
   auto* const layout = new QVBoxLayout(this);
   layout->addLayout(searchRow(labels));
@@ -76,7 +77,7 @@ QLayout* SymbolWindow::searchRow(const std::map<int, QString>& labels) {
 
 QLayout* SymbolWindow::previewRow() {
   auto* const row = new QHBoxLayout;
-  m_preview->setAccessibleName(dialogs::plain_label(kPreview));
+  m_preview->setAccessibleName(qtString(kPreview));
   m_name->setWordWrap(true);
   m_name->setTextInteractionFlags(Qt::TextSelectableByMouse);
   row->addWidget(m_preview);
@@ -85,8 +86,7 @@ QLayout* SymbolWindow::previewRow() {
 }
 
 void SymbolWindow::fillBlocks() {
-  for (const unicode_block& block : m_dialog.blocks())
-    m_blocks->addItem(QString::fromStdU16String(Supp_Translate(block.name)));
+  for (const unicode_block& block : m_dialog.blocks()) m_blocks->addItem(qtTranslated(block.name));
 }
 
 void SymbolWindow::connectControls() {
@@ -97,10 +97,10 @@ void SymbolWindow::connectControls() {
 }
 
 void SymbolWindow::search(const QString& text) {
-  m_dialog.search(text.toStdU16String());
+  m_dialog.search(fromQt(text));
   showCharacters();
   showSelected();
-  if (m_dialog.characters().empty()) m_name->setText(dialogs::plain_label(kNothingFound));
+  if (m_dialog.characters().empty()) m_name->setText(qtString(kNothingFound));
 }
 
 void SymbolWindow::chooseBlock(int row) {
@@ -126,5 +126,5 @@ void SymbolWindow::showSelected() {
   m_characters->point(selected);
   m_recent->point(selected);
   m_preview->show(selected);
-  m_name->setText(QString::fromStdU16String(dialogs::character_label(selected)));
+  m_name->setText(toQt(dialogs::character_label(selected)));
 }

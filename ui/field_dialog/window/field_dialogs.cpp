@@ -2,8 +2,8 @@
 
 #include <QApplication>
 
-#include "host/translate.h"
 #include "ui/field_dialog/window/field_window.h"
+#include "ui/widgets/qt_text.h"
 
 namespace {
 
@@ -21,9 +21,9 @@ const host::OfferingFields offer(service);
 }  // namespace
 
 OdDbFieldPtr FieldDialogs::insertField(HostWindow*, OdDbDatabase& database) {
-  return chosen(CFieldDlg(database), QString::fromStdU16String(Supp_Translate(u"Insert Field")));
+  return chosen(CFieldDlg(database), qtTranslated(u"Insert Field"));
 }
 
 OdDbFieldPtr FieldDialogs::changeField(const OdDbField& field, HostWindow*, OdDbDatabase& database) {
-  return chosen(CFieldDlg(database, field), QString::fromStdU16String(Supp_Translate(u"Edit Field")));
+  return chosen(CFieldDlg(database, field), qtTranslated(u"Edit Field"));
 }

@@ -10,27 +10,22 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
-#include "host/translate.h"
+#include "ui/widgets/qt_text.h"
+
 namespace {
-
-QString toQt(std::u16string_view text) {
-  return QString::fromUtf16(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QString translated(std::u16string_view text) { return toQt(Supp_Translate(text)); }
 
 QString argumentLabel(fields::argument argument) {
   switch (argument) {
     case fields::argument::name:
-      return toQt(Supp_Translate(u"Name of the &variable:"));
+      return qtTranslated(u"Name of the &variable:");
     case fields::argument::object:
-      return toQt(Supp_Translate(u"&Handle of the object:"));
+      return qtTranslated(u"&Handle of the object:");
     case fields::argument::expression:
-      return toQt(Supp_Translate(u"&Expression:"));
+      return qtTranslated(u"&Expression:");
     case fields::argument::none:
       break;
   }
-  return toQt(Supp_Translate(u"&Argument:"));
+  return qtTranslated(u"&Argument:");
 }
 
 }  // namespace
@@ -46,7 +41,7 @@ FieldWindow::FieldWindow(CFieldDlg& choice, const QString& title, QWidget* paren
       m_code(new QLineEdit),
       m_preview(new QLabel) {
   setWindowTitle(title);
-  for (const fields::kind_row& row : fields::kinds()) m_kinds->addItem(translated(row.label));
+  for (const fields::kind_row& row : fields::kinds()) m_kinds->addItem(qtTranslated(row.label));
   for (const std::u16string_view name : fields::properties()) m_property->addItem(toQt(name));
   m_preview->setTextFormat(Qt::PlainText);
   m_preview->setMinimumWidth(300);
@@ -62,14 +57,14 @@ void FieldWindow::layOut() {
   lists->addWidget(m_formats);
   auto* rows = new QFormLayout;
   rows->addRow(m_argument_label, m_argument);
-  rows->addRow(toQt(Supp_Translate(u"&Property:")), m_property);
-  rows->addRow(toQt(Supp_Translate(u"&Code:")), m_code);
-  rows->addRow(toQt(Supp_Translate(u"Shows:")), m_preview);
+  rows->addRow(qtTranslated(u"&Property:"), m_property);
+  rows->addRow(qtTranslated(u"&Code:"), m_code);
+  rows->addRow(qtTranslated(u"Shows:"), m_preview);
   m_argument_label->setBuddy(m_argument);
   auto* buttons = new QDialogButtonBox(QDialogButtonBox::Ok | QDialogButtonBox::Cancel);
   m_ok = buttons->button(QDialogButtonBox::Ok);
-  m_ok->setText(toQt(Supp_Translate(u"OK")));
-  buttons->button(QDialogButtonBox::Cancel)->setText(toQt(Supp_Translate(u"Cancel")));
+  m_ok->setText(qtTranslated(u"OK"));
+  buttons->button(QDialogButtonBox::Cancel)->setText(qtTranslated(u"Cancel"));
   connect(buttons, &QDialogButtonBox::accepted, this, &QDialog::accept);
   connect(buttons, &QDialogButtonBox::rejected, this, &QDialog::reject);
   auto* all = new QVBoxLayout(this);
@@ -94,18 +89,19 @@ void FieldWindow::connectWidgets() {
     showChoice(m_property);
   });
   connect(m_argument, &QLineEdit::textEdited, this, [this](const QString& text) {
-    m_choice.set_argument(text.toStdU16String());
+    m_choice.set_argument(fromQt(text));
     showChoice(m_argument);
   });
   connect(m_code, &QLineEdit::textEdited, this, [this](const QString& text) {
-    m_choice.set_code(text.toStdU16String());
+    m_choice.set_code(fromQt(text));
     showChoice(m_code);
   });
 }
 
 void FieldWindow::showFormats() {
   m_formats->clear();
-  for (const fields::format_row& row : m_choice.kind_row().formats) m_formats->addItem(translated(row.label));
+  for (const fields::format_row& row : m_choice.kind_row().formats)
+    m_formats->addItem(qtTranslated(row.label));
   m_formats->setCurrentRow(static_cast<int>(m_choice.format()));
 }
 
