@@ -18,15 +18,15 @@ constexpr toolbar_control kControls[] = {
     {1029, kCombo, 1064},
     {1001, kCheck, 1040, u"Ctrl+B", 116, 230},
     {1002, kCheck, 1041, u"Ctrl+I", 119, 231},
-    {1003, kCheck, 1042, u"Ctrl+U", 114, 229, true},
-    {1004, kCheck, 1043, u"Ctrl+O", 122, 232, true},
+    {1003, kCheck, 1042, u"Ctrl+U", 114, 229},
+    {1004, kCheck, 1043, u"Ctrl+O", 122, 232},
     {1014, kCheck, 1094, u"", 139},
     {1051, kCheck, 1109, u"", 236},
     {1052, kCheck, 1110, u"", 235},
     {1032, kButton, 1053, u"", 129},
     {1039, kButton, 1054, u"", 128},
-    {1012, kButton, 1057, u"Ctrl+Z", 132, 0, true},
-    {1013, kButton, 1058, u"Ctrl+Y", 133, 0, true},
+    {1012, kButton, 1057, u"Ctrl+Z", 132},
+    {1013, kButton, 1058, u"Ctrl+Y", 133},
     {1005, kCheck, 1044, u"", 121},
     {1006, kCheck, 1045, u"", 117},
     {1007, kCheck, 1046, u"", 123},
@@ -41,7 +41,7 @@ constexpr toolbar_control kControls[] = {
     {1040, kSpin, 1062, u"", 131},
     {1042, kSpin, 1063, u"", 130},
     {2, kButton, 1072, u"", 234},
-    {1, kButton, 1103, u"", 0, 0, true},
+    {1, kButton, 1103},
 };
 
 }  // namespace

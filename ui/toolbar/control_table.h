@@ -13,13 +13,12 @@ struct toolbar_control {
   const char16_t* keys = u"";  ///< what else does the same, for the tooltip; the text itself may tell it too
   int icon = 0;                ///< 0 for none
   int letter_icon = 0;         ///< the icon of the English letter set; 0: it has none
-  bool compact = false;        ///< shown in a session with few tools
 };
 
 namespace toolbar {
 
 /// All controls. Those of the full toolbar are all shown, in this order; a compact one holds the same and
-/// hides what it does not use.
+/// shows those of its layout.
 std::span<const toolbar_control> control_table();
 
 /// The row of a control. Throws `std::invalid_argument` for a number that no row has.

@@ -1,9 +1,12 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <iterator>
+
 #include "tests/editor/edited_drawing.h"
 #include "tests/ui/toolbar/edited_with_toolbar.h"
-#include "ui/toolbar/control_table.h"
+#include "ui/toolbar/layout_table.h"
 
 using testing::ElementsAre;
 using testing::UnorderedElementsAre;
@@ -32,8 +35,8 @@ struct CompactToolbar : testing::Test {
 
 TEST_F(CompactToolbar, shows_the_controls_that_are_walked_here) {
   std::vector<int> shown;
-  for (const toolbar_control& control : toolbar::control_table())
-    if (control.compact) shown.push_back(control.id);
+  for (const auto& row : toolbar::layout_rows(/*compact=*/true))
+    std::ranges::copy_if(row, std::back_inserter(shown), [](int id) { return id > 0; });
   EXPECT_THAT(shown, UnorderedElementsAre(1003, 1004, 1012, 1013, 1));
 }
 

@@ -312,10 +312,3 @@ TEST(ControlTable, the_letters_come_in_two_sets) {
   EXPECT_EQ(toolbar::icon_of(bold, /*english_letters=*/true), 230);
   EXPECT_EQ(toolbar::icon_of(toolbar::control_of(1005), /*english_letters=*/true), 121);
 }
-
-TEST(ControlTable, a_compact_toolbar_shows_undo_redo_two_lines_and_ok) {
-  std::vector<int> shown;
-  for (const toolbar_control& control : toolbar::control_table())
-    if (control.compact) shown.push_back(control.id);
-  EXPECT_THAT(shown, ElementsAre(1003, 1004, 1012, 1013, 1));
-}
