@@ -40,6 +40,14 @@ selected_texts open_texts(const HostSelectionSet& selection) {
   return texts;
 }
 
+std::optional<selected_texts> ask_and_open_texts(HostDocument& document) {
+  const auto selected = ask_for_texts(document);
+  if (!selected) return std::nullopt;
+  selected_texts texts = open_texts(*selected);
+  if (texts.empty()) refuse_without_texts(document);
+  return texts;
+}
+
 void refuse_without_texts(HostDocument& document) {
   document.prompt().refuse(host::resource_string(kNotTexts));
 }

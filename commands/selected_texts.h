@@ -29,5 +29,9 @@ HostSelectionSet without_locked(const HostSelectionSet& picked, HostEdPrompt& pr
 /// Opens the texts of a selection; entities of other kinds are left out. Throws what opening throws.
 selected_texts open_texts(const HostSelectionSet& selection);
 
+/// Asks for texts and opens them. Nothing when the selection was cancelled or left empty; no texts where the
+/// user was told that none was among it.
+std::optional<selected_texts> ask_and_open_texts(HostDocument& document);
+
 /// Tells the user that nothing of what was selected is a text of the kind that the command changes.
 void refuse_without_texts(HostDocument& document);

@@ -66,15 +66,11 @@ void change_all(HostDocument& document, const std::vector<OdSmartPtr<Text>>& tex
 
 int CTCase::runIn(HostDocument& document) {
   editing::open_current_space(document.database());  // throws where there is none
-  const auto selected = ask_for_texts(document);
-  if (!selected) return kCommandCancelled;
-  const selected_texts texts = open_texts(*selected);
-  if (texts.empty()) {
-    refuse_without_texts(document);
-    return kCommandDone;
-  }
+  const auto texts = ask_and_open_texts(document);
+  if (!texts) return kCommandCancelled;
+  if (texts->empty()) return kCommandDone;
   if (!choose_mode(document.prompt())) return kCommandCancelled;
-  change_all(document, texts.single_line, last_mode());
-  change_all(document, texts.multi_line, last_mode());
+  change_all(document, texts->single_line, last_mode());
+  change_all(document, texts->multi_line, last_mode());
   return kCommandDone;
 }

@@ -28,16 +28,12 @@ void justify_all(HostDocument& document, const selected_texts& texts, const just
 
 int CJust::runIn(HostDocument& document) {
   editing::open_current_space(document.database());  // throws where there is none
-  const auto selected = ask_for_texts(document);
-  if (!selected) return kCommandCancelled;
-  const selected_texts texts = open_texts(*selected);
-  if (texts.empty()) {
-    refuse_without_texts(document);
-    return kCommandDone;
-  }
+  const auto texts = ask_and_open_texts(document);
+  if (!texts) return kCommandCancelled;
+  if (texts->empty()) return kCommandDone;
   const int keyword = document.prompt().getKeyword({.prompt = host::resource_string(kSelectJustification),
                                                     .keywords = host::resource_string(kKeywords),
                                                     .may_be_empty = true});
-  if (keyword >= 0) justify_all(document, texts, justification_at(keyword));
+  if (keyword >= 0) justify_all(document, *texts, justification_at(keyword));
   return kCommandDone;
 }
