@@ -1,12 +1,12 @@
 #include "ui/widgets/color_swatch_icon.h"
 
-#include <QIconEngine>
 #include <QPainter>
-#include <QPixmap>
+
+#include "ui/widgets/painted_icon.h"
 
 namespace {
 
-class SwatchEngine : public QIconEngine {
+class SwatchEngine : public PaintedIcon {
  public:
   explicit SwatchEngine(const controls::color_swatch& swatch) : m_swatch(swatch) {}
 
@@ -19,13 +19,6 @@ class SwatchEngine : public QIconEngine {
       painter->fillRect(QRectF(square.topLeft(), QSizeF(square.width() / 2, square.height())), Qt::black);
     painter->setPen(QPen(Qt::gray, 1));
     painter->drawRect(square);
-  }
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap drawn(size);
-    drawn.fill(Qt::transparent);
-    QPainter painter(&drawn);
-    paint(&painter, QRect(QPoint(), size), mode, state);
-    return drawn;
   }
   QIconEngine* clone() const override { return new SwatchEngine(m_swatch); }
 

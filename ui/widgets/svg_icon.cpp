@@ -2,17 +2,16 @@
 
 #include <QFile>
 #include <QGuiApplication>
-#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
 #include <QSvgRenderer>
 
 #include "ui/resources/icons.h"
+#include "ui/widgets/painted_icon.h"
 
 namespace {
 
-class SvgEngine : public QIconEngine {
+class SvgEngine : public PaintedIcon {
  public:
   explicit SvgEngine(QByteArray svg) : m_svg(std::move(svg)) {}
 
@@ -22,13 +21,6 @@ class SvgEngine : public QIconEngine {
     QByteArray colored = m_svg;
     colored.replace("currentColor", color.name().toLatin1());
     QSvgRenderer(colored).render(painter, rect);
-  }
-  QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
-    QPixmap drawn(size);
-    drawn.fill(Qt::transparent);
-    QPainter painter(&drawn);
-    paint(&painter, QRect(QPoint(), size), mode, state);
-    return drawn;
   }
   QIconEngine* clone() const override { return new SvgEngine(m_svg); }
 
