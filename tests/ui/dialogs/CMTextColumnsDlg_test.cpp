@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "tests/ui/dialogs/dialog_host.h"
+#include "tests/ui/dialogs/three_columns.h"
 
 namespace {
 
@@ -14,14 +15,7 @@ class ColumnsDialog : public testing::Test {
   const std::vector<std::u16string>& alerts() { return m_host.events().shown(); }
 
   DialogHost m_host;
-  column_values m_values{.type = 1,
-                         .auto_height = 1,
-                         .count = 3,
-                         .height = 20,
-                         .column_width = 30,
-                         .gutter = 5,
-                         .total = 100,
-                         .text_height = 2.5};
+  column_values m_values = kThreeColumns;
 };
 
 TEST_F(ColumnsDialog, two_columns_of_10_with_gutter_1_are_4_5_wide_and_five_need_12_5) {

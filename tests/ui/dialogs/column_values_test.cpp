@@ -2,22 +2,12 @@
 
 #include <gtest/gtest.h>
 
+#include "tests/ui/dialogs/three_columns.h"
+
 namespace {
 
-/// Three columns of 30 with gutters of 5.
-column_values three_columns() {
-  return {.type = 1,
-          .auto_height = 1,
-          .count = 3,
-          .height = 20,
-          .column_width = 30,
-          .gutter = 5,
-          .total = 100,
-          .text_height = 2.5};
-}
-
 TEST(ColumnValues, more_columns_share_the_total) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   dialogs::set_count(values, 5);
   EXPECT_EQ(values.column_width, 16);
   EXPECT_EQ(values.gutter, 5);
@@ -25,7 +15,7 @@ TEST(ColumnValues, more_columns_share_the_total) {
 }
 
 TEST(ColumnValues, columns_as_narrow_as_the_text_is_high_take_from_the_gutters) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   dialogs::set_total(values, 13.5);
   EXPECT_EQ(values.column_width, 2.5);
   EXPECT_EQ(values.gutter, 3);
@@ -33,7 +23,7 @@ TEST(ColumnValues, columns_as_narrow_as_the_text_is_high_take_from_the_gutters) 
 }
 
 TEST(ColumnValues, without_gutters_the_total_grows_to_what_the_columns_need) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   dialogs::set_total(values, 5);
   EXPECT_EQ(values.column_width, 2.5);
   EXPECT_EQ(values.gutter, 0);
@@ -41,7 +31,7 @@ TEST(ColumnValues, without_gutters_the_total_grows_to_what_the_columns_need) {
 }
 
 TEST(ColumnValues, the_total_follows_column_width_and_gutter) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   dialogs::set_column_width(values, 40);
   EXPECT_EQ(values.total, 130);
   dialogs::set_gutter(values, 10);
@@ -49,18 +39,18 @@ TEST(ColumnValues, the_total_follows_column_width_and_gutter) {
 }
 
 TEST(ColumnValues, beyond_the_limit_the_total_is_no_sum_any_more) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   dialogs::set_column_width(values, 12000);
   EXPECT_EQ(values.column_width, 25000);
   EXPECT_EQ(values.total, 25000);
-  values = three_columns();
+  values = kThreeColumns;
   dialogs::set_gutter(values, 24000);
   EXPECT_EQ(values.gutter, 25000);
   EXPECT_EQ(values.total, 25000);
 }
 
 TEST(ColumnValues, one_column_is_as_wide_as_the_total) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   values.count = 1;
   dialogs::set_total(values, 2);
   EXPECT_EQ(values.column_width, 2.5);
@@ -69,7 +59,7 @@ TEST(ColumnValues, one_column_is_as_wide_as_the_total) {
 }
 
 TEST(ColumnValues, a_text_without_columns_counts_as_one) {
-  auto values = three_columns();
+  column_values values = kThreeColumns;
   values.count = 0;
   dialogs::set_column_width(values, 41);
   EXPECT_EQ(values.total, 41);

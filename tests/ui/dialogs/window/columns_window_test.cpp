@@ -7,6 +7,7 @@
 #include <QPushButton>
 #include <QRadioButton>
 
+#include "tests/ui/dialogs/three_columns.h"
 #include "tests/ui/dialogs/window/shown_window.h"
 
 namespace {
@@ -14,15 +15,6 @@ namespace {
 constexpr int kOk = 1, kCancel = 2, kHelp = 9;
 constexpr int kCount = 1013, kHeight = 1014, kColumnWidth = 1015, kGutter = 1016, kTotal = 1017;
 constexpr int kDynamic = 1029, kStatic = 1030, kNone = 1031, kAutoHeight = 1032, kManualHeight = 1033;
-
-constexpr column_values kThreeColumns{.type = 1,
-                                      .auto_height = 1,
-                                      .count = 3,
-                                      .height = 20,
-                                      .column_width = 30,
-                                      .gutter = 5,
-                                      .total = 100,
-                                      .text_height = 2.5};
 
 class ColumnsWindowTest : public testing::Test {
  protected:
