@@ -2,13 +2,15 @@
 
 #include <charconv>
 
+#include "od/base/unicode.h"
+
 namespace {
 
 constexpr std::size_t kLongestNumber = 20;
 
 std::optional<std::uint64_t> numberOf(std::u16string_view text) {
   if (text.empty() || text.size() > kLongestNumber) return {};
-  const std::string digits(text.begin(), text.end());
+  const std::string digits = odToUtf8(text);
   std::uint64_t value = 0;
   const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
   if (error != std::errc() || end != digits.data() + digits.size()) return {};

@@ -29,6 +29,10 @@ TEST(FieldMarkers, a_marker_without_a_readable_number_is_text) {
   EXPECT_EQ(pieces(u"%<\\_FldIdx %<\\_FldIdx 2>%"), "[%<\\_FldIdx ]2[]");
 }
 
+TEST(FieldMarkers, a_letter_whose_code_ends_like_that_of_a_digit_is_no_digit) {
+  EXPECT_EQ(odSplitAtReferences(u"%<\\_FldIdx \u0131>%", u"\\_FldIdx").size(), 1U);
+}
+
 TEST(FieldMarkers, come_off_as_they_were_put_on) {
   EXPECT_EQ(odWithoutMarkers(odWithMarkers(u"\\AcVar Date")), u"\\AcVar Date");
   EXPECT_EQ(odWithoutMarkers(odWithMarkers(u"\\AcExpr %<a>%")), u"\\AcExpr %<a>%");
