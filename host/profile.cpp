@@ -1,15 +1,10 @@
 #include "host/profile.h"
 
-#include <charconv>
-
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 
 int IProfile::number(std::u16string_view section, std::u16string_view name, int fallback) const {
-  const std::string digits = odToUtf8(text(section, name).value_or(u""));
-  int value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  const bool is_number = error == std::errc() && end == digits.data() + digits.size();
-  return is_number ? value : fallback;
+  return odWholeNumber<int>(odToUtf8(text(section, name).value_or(u""))).value_or(fallback);
 }
 
 void IProfile::setNumber(std::u16string_view section, std::u16string_view name, int value) {

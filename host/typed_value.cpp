@@ -1,6 +1,5 @@
 #include "host/typed_value.h"
 
-#include <charconv>
 #include <cmath>
 #include <numbers>
 #include <string>
@@ -8,6 +7,7 @@
 
 #include "host/prompt_text.h"
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 
 namespace host {
 namespace {
@@ -51,11 +51,8 @@ std::optional<double> typed_number(std::u16string_view text) {
   std::string digits = odToUtf8(without_outer_blanks(text));
   if (digits.starts_with('+')) digits.erase(0, 1);
   if (digits.find_first_not_of("0123456789.eE+-") != digits.npos) return std::nullopt;
-  double value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc() || end != digits.data() + digits.size() || !(std::abs(value) <= kGreatestNumber))
-    return std::nullopt;
-  return value;
+  const auto value = odWholeNumber<double>(digits);
+  return value && std::abs(*value) <= kGreatestNumber ? value : std::nullopt;
 }
 
 std::optional<OdGePoint3d> typed_point(std::u16string_view text, const OdGePoint3d& base) {

@@ -1,12 +1,12 @@
 #include "desk/script/script_verb.h"
 
 #include <array>
-#include <charconv>
 #include <cmath>
 #include <optional>
 #include <stdexcept>
 
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 
 namespace {
 
@@ -23,12 +23,8 @@ std::u16string_view trimmed(std::u16string_view text) {
 }
 
 std::optional<double> readNumber(std::u16string_view text) {
-  const std::string digits = odToUtf8(trimmed(text));
-  double value = 0;
-  const char* end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, value);
-  if (error != std::errc() || stop != end || !std::isfinite(value)) return std::nullopt;
-  return value;
+  const auto value = odWholeNumber<double>(odToUtf8(trimmed(text)));
+  return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
 MouseStep readMouse(MouseAction action, std::u16string_view argument) {

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <charconv>
 
+#include "od/base/whole_number.h"
+
 namespace rich {
 
 namespace {
@@ -20,13 +22,10 @@ constexpr named kNames[] = {{"aqua", 0x00FFFF},    {"black", 0x000000},  {"blue"
                             {"white", 0xFFFFFF},   {"yellow", 0xFFFF00}};
 
 std::optional<std::uint32_t> hexadecimal(std::string_view digits) {
-  std::uint32_t value = 0;
-  const char* end = digits.data() + digits.size();
-  const auto [stop, error] = std::from_chars(digits.data(), end, value, 16);
-  if (error != std::errc() || stop != end) return {};
-  if (digits.size() == 6) return value;
+  const auto value = odWholeNumber<std::uint32_t>(digits, 16);
+  if (!value || digits.size() == 6) return value;
   if (digits.size() != 3) return {};
-  return (value >> 8 & 0xF) * 0x110000 + (value >> 4 & 0xF) * 0x1100 + (value & 0xF) * 0x11;
+  return (*value >> 8 & 0xF) * 0x110000 + (*value >> 4 & 0xF) * 0x1100 + (*value & 0xF) * 0x11;
 }
 
 /// `r, g, b` or `r g b`, with whatever stands behind them.

@@ -1,7 +1,6 @@
 #include "od/dxf/ascii_reader.h"
 
-#include <charconv>
-
+#include "od/base/whole_number.h"
 #include "od/dxf/error.h"
 #include "od/dxf/number_text.h"
 
@@ -47,13 +46,10 @@ bool AsciiReader::only_padding_left() const {
 }
 
 int AsciiReader::parse_code(std::string_view text) const {
-  const std::string_view digits = trim(text);
-  int code = 0;
-  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), code);
-  const bool is_number = result.ec == std::errc() && result.ptr == digits.data() + digits.size();
-  if (!is_number || code > kHighestCode || code < -kHighestCode)
+  const auto code = odWholeNumber<int>(trim(text));
+  if (!code || *code > kHighestCode || *code < -kHighestCode)
     throw Error::at_line(name_, line_, quoted(text) + " is not a group code");
-  return code;
+  return *code;
 }
 
 std::optional<Group> AsciiReader::next() {

@@ -4,6 +4,8 @@
 #include <charconv>
 #include <cmath>
 
+#include "od/base/whole_number.h"
+
 namespace dxf {
 namespace {
 
@@ -12,10 +14,7 @@ constexpr std::string_view kDigits = "0123456789ABCDEF";
 template <typename Number, typename... Format>
 std::optional<Number> parse_all(std::string_view text, Format... format) {
   if (text.starts_with('+')) text.remove_prefix(1);
-  Number value{};
-  const auto result = std::from_chars(text.data(), text.data() + text.size(), value, format...);
-  if (result.ec != std::errc() || result.ptr != text.data() + text.size()) return std::nullopt;
-  return value;
+  return odWholeNumber<Number>(text, format...);
 }
 
 }  // namespace

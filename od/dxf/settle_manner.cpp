@@ -1,7 +1,6 @@
 #include "od/dxf/settle_manner.h"
 
-#include <charconv>
-
+#include "od/base/whole_number.h"
 #include "od/dxf/number_text.h"
 
 namespace dxf {
@@ -20,11 +19,9 @@ std::string_view header_value(const RecordList& records, std::string_view name) 
 
 // "AC1015" is 1015; the oldest drawings say "AC2.10" or nothing.
 Version version_of(std::string_view name) {
-  int number = 0;
   if (!name.starts_with("AC")) return R12;
-  const auto result = std::from_chars(name.data() + 2, name.data() + name.size(), number);
-  const bool is_whole = result.ptr == name.data() + name.size();
-  return is_whole && number > R12 && number < 10000 ? static_cast<Version>(number) : R12;
+  const int number = odWholeNumber<int>(name.substr(2)).value_or(R12);
+  return number > R12 && number < 10000 ? static_cast<Version>(number) : R12;
 }
 
 // Columns of a right aligned text, or 0 where no blank shows any.

@@ -1,10 +1,11 @@
 #include "od/evaluate/expression.h"
 
-#include <charconv>
 #include <cmath>
 #include <string>
 #include <vector>
 
+#include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 #include "od/field/field_markers.h"
 
 namespace {
@@ -162,10 +163,6 @@ std::optional<double> odNumberOf(std::u16string_view text) {
   const std::size_t first = text.find_first_not_of(u' ');
   if (first == text.npos) return {};
   text = text.substr(first, text.find_last_not_of(u' ') - first + 1);
-  std::string digits;
-  for (const char16_t unit : text) digits += unit < 0x80 ? static_cast<char>(unit) : '?';
-  double value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc() || end != digits.data() + digits.size() || !std::isfinite(value)) return {};
-  return value;
+  const auto value = odWholeNumber<double>(odToUtf8(text));
+  return value && std::isfinite(*value) ? value : std::nullopt;
 }

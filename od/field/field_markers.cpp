@@ -1,20 +1,15 @@
 #include "od/field/field_markers.h"
 
-#include <charconv>
-
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 
 namespace {
 
 constexpr std::size_t kLongestNumber = 20;
 
 std::optional<std::uint64_t> numberOf(std::u16string_view text) {
-  if (text.empty() || text.size() > kLongestNumber) return {};
-  const std::string digits = odToUtf8(text);
-  std::uint64_t value = 0;
-  const auto [end, error] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-  if (error != std::errc() || end != digits.data() + digits.size()) return {};
-  return value;
+  if (text.size() > kLongestNumber) return {};
+  return odWholeNumber<std::uint64_t>(odToUtf8(text));
 }
 
 }  // namespace

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
 #include <optional>
 
 #include "od/base/OdError.h"
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 #include "od/fonts/glyph_geometry.h"
 
 namespace {
@@ -33,10 +33,11 @@ class RecordReader {
   /// Nothing at the end and at what is no record.
   std::optional<Record> next() {
     while (m_at < m_text.size() && isLineEnd(m_text[m_at])) ++m_at;
-    Record record;
-    int pairs = 0;
-    if (!field(5, record.number) || !field(3, pairs) || pairs < 1) return std::nullopt;
-    std::size_t wanted = static_cast<std::size_t>(pairs) * 2;
+    const auto number = field(5);
+    const auto pairs = field(3);
+    if (!number || !pairs || *pairs < 1) return std::nullopt;
+    Record record{.number = *number};
+    std::size_t wanted = static_cast<std::size_t>(*pairs) * 2;
     for (; m_at < m_text.size() && record.letters.size() < wanted; ++m_at) {
       if (!isLineEnd(m_text[m_at])) record.letters += m_text[m_at];
     }
@@ -46,12 +47,12 @@ class RecordReader {
  private:
   static bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 
-  bool field(std::size_t width, int& value) {
+  /// The number in the next columns.
+  std::optional<int> field(std::size_t width) {
     std::string_view digits = m_text.substr(std::min(m_at, m_text.size()), width);
     m_at += width;
     digits.remove_prefix(std::min(digits.find_first_not_of(' '), digits.size()));
-    auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), value);
-    return failure == std::errc() && end == digits.data() + digits.size();
+    return odWholeNumber<int>(digits);
   }
 
   std::string_view m_text;

@@ -8,6 +8,7 @@
 
 #include "od/base/OdError.h"
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 #include "od/fonts/FontLines.h"
 #include "od/fonts/flatten_curve.h"
 #include "od/fonts/glyph_geometry.h"
@@ -36,10 +37,8 @@ double number(std::string_view text) {
 }
 
 std::optional<char32_t> hexCode(std::string_view digits) {
-  unsigned code = 0;
-  auto [end, failure] = std::from_chars(digits.data(), digits.data() + digits.size(), code, 16);
-  bool isCode = failure == std::errc() && end == digits.data() + digits.size() && code <= 0x10FFFF;
-  return isCode ? std::optional<char32_t>(code) : std::nullopt;
+  const auto code = odWholeNumber<unsigned>(digits, 16);
+  return code && *code <= 0x10FFFF ? std::optional<char32_t>(*code) : std::nullopt;
 }
 
 /// The code of a line such as `[0041] A`.

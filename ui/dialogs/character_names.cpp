@@ -4,12 +4,12 @@
 #include <unicode/utf16.h>
 
 #include <algorithm>
-#include <charconv>
 #include <cstdio>
 #include <optional>
 #include <sstream>
 
 #include "od/base/unicode.h"
+#include "od/base/whole_number.h"
 
 namespace dialogs {
 namespace {
@@ -63,11 +63,8 @@ std::optional<char32_t> meant_character(std::u16string_view text) {
   if (length == text.size()) return static_cast<char32_t>(character);
   const std::string digits = odToUtf8(text);
   if (!digits.starts_with("U+") && !digits.starts_with("u+")) return {};
-  unsigned number = 0;
-  const char* const end = digits.data() + digits.size();
-  const auto [behind, error] = std::from_chars(digits.data() + 2, end, number, 16);
-  if (error != std::errc() || behind != end || number > UCHAR_MAX_VALUE) return {};
-  return number;
+  const auto number = odWholeNumber<unsigned>(std::string_view(digits).substr(2), 16);
+  return number && *number <= UCHAR_MAX_VALUE ? std::optional<char32_t>(*number) : std::nullopt;
 }
 
 }  // namespace
