@@ -41,10 +41,10 @@ int ask(const menu_place& place, HostPixel at) {
 void show_popup_menu(smart_edit& session, const HostWindowMessage& message, const OdGePoint3d& point) {
   if (HostWindow* window = session.window()) window->setCursor(IDC_ARROW);
   const ExMTextEditablePtr alive(&session.editable());
-  const menu_place place{session, session.textPoint(point)};
-  const int command = ask(place, message.pixel);
   session.forgetPress();
   session.typed().forget();
+  const menu_place place{session, session.textPoint(point)};
+  const int command = ask(place, message.pixel);
   if (command == 0 || !run_menu_command(command, place)) return;
   session.repaint(redraw_request::kText);
   alive->endOfEdit(/*relayout=*/true);

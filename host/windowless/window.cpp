@@ -15,6 +15,7 @@ void WindowlessWindow::choose(int command) { choose(number_text(command)); }
 int WindowlessWindow::popupMenu(const HostMenu& menu, HostPixel at) {
   m_last_menu = menu;
   m_last_place = at;
+  m_tip_at_menu = m_tip;
   if (m_choices.empty()) return 0;
   const std::u16string choice = std::move(m_choices.front());
   m_choices.pop_front();

@@ -37,6 +37,8 @@ class WindowlessWindow : public HostWindow {
   const HostMenu& lastMenu() const { return m_last_menu; }
   /// Where it was shown.
   HostPixel lastMenuPlace() const { return m_last_place; }
+  /// The text that was beside the mouse while it was open.
+  const std::u16string& tipAtLastMenu() const { return m_tip_at_menu; }
   /// Messages that were posted, in their order.
   const std::vector<unsigned>& posted() const { return m_posted; }
 
@@ -49,5 +51,6 @@ class WindowlessWindow : public HostWindow {
   std::vector<std::u16string> m_refused;
   HostMenu m_last_menu;
   HostPixel m_last_place;
+  std::u16string m_tip_at_menu;
   std::vector<unsigned> m_posted;
 };

@@ -238,6 +238,17 @@ TEST(GadgetMouse, a_menu_between_press_and_release_ends_the_drag_with_its_guide)
   EXPECT_EQ(hand.tabs(), at{4});
 }
 
+TEST(GadgetMouse, a_menu_in_a_drag_opens_over_a_view_without_the_tip) {
+  mouse_at_work hand;
+  hand.begin();
+  hand.press(41, 1.6);
+  hand.move(30, 1.6);
+  EXPECT_FALSE(hand.application.window().tip().empty());
+  hand.event(WM_RBUTTONUP, 30, 1.6);
+  EXPECT_FALSE(hand.application.window().lastMenu().empty());
+  EXPECT_EQ(hand.application.window().tipAtLastMenu(), u"");
+}
+
 TEST(GadgetMouse, a_key_in_the_drag_of_a_long_text_draws_its_letters_again) {
   mouse_at_work hand;
   hand.text->setContents(OdString(std::u16string(5000, u'a')));
