@@ -70,6 +70,7 @@ void DrawingView::mousePressEvent(QMouseEvent* event) {
 void DrawingView::mouseReleaseEvent(QMouseEvent* event) {
   if (event->button() == Qt::MiddleButton) m_navigation.drop();
   send(releaseNumber(event->button()), *event);
+  if (event->button() == Qt::LeftButton) send(WM_SETCURSOR, *event);
 }
 
 void DrawingView::mouseDoubleClickEvent(QMouseEvent* event) {
@@ -84,6 +85,8 @@ void DrawingView::mouseMoveEvent(QMouseEvent* event) {
   if (m_navigation.drag(event->position())) update();
   const OdGePoint3d point = m_view.gsView().toWorld({event->position().x(), event->position().y()});
   emit pointed(point.x, point.y);
+  // What is dragged keeps its cursor, wherever the mouse is.
+  if (!event->buttons().testFlag(Qt::LeftButton)) send(WM_SETCURSOR, *event);
   send(WM_MOUSEMOVE, *event);
 }
 

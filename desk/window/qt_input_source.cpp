@@ -5,9 +5,12 @@
 
 namespace {
 
-bool isMove(const HostInput& input) {
+/// Whether nobody needs to read `input` any more when `next` comes. A move comes behind the question for the
+/// cursor at the same point, which stays.
+bool isOutdatedBy(const HostWindowMessage& next, const HostInput& input) {
   const auto* message = std::get_if<HostWindowMessage>(&input);
-  return message && (message->number == WM_MOUSEMOVE || message->number == WM_SETCURSOR);
+  if (!message) return false;
+  return message->number == WM_MOUSEMOVE || (message->number == WM_SETCURSOR && next.number == WM_SETCURSOR);
 }
 
 }  // namespace
@@ -37,10 +40,7 @@ void QtInputSource::push(HostInput input) {
 }
 
 void QtInputSource::pushMove(HostWindowMessage move) {
-  while (!m_inputs.empty() && isMove(m_inputs.back())) m_inputs.pop_back();
-  HostWindowMessage shape = move;
-  shape.number = WM_SETCURSOR;
-  push(shape);
+  while (!m_inputs.empty() && isOutdatedBy(move, m_inputs.back())) m_inputs.pop_back();
   push(move);
 }
 

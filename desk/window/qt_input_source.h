@@ -20,8 +20,8 @@ class QtInputSource : public HostInputSource {
 
   /// Adds an input behind those that wait.
   void push(HostInput input);
-  /// Adds a moved cursor: the question for its shape and the move. A move that nobody has worked on yet is
-  /// replaced by it.
+  /// Adds a move of the mouse, or the question for its cursor that comes before one. What was told of the
+  /// mouse and nobody has worked on yet is replaced by it.
   void pushMove(HostWindowMessage move);
   /// Drops the inputs that nobody has worked on yet.
   void forget() { m_inputs.clear(); }

@@ -79,7 +79,7 @@ void WindowDesk::connectWidgets() {
 }
 
 void WindowDesk::send(HostWindowMessage message) {
-  if (message.number == WM_MOUSEMOVE) {
+  if (message.number == WM_MOUSEMOVE || message.number == WM_SETCURSOR) {
     m_source.pushMove(message);
   } else {
     m_source.push(message);
