@@ -2,6 +2,7 @@
 
 #include "host/keyword_list.h"
 #include "host/prompt.h"
+#include "od/base/trimmed.h"
 
 namespace host {
 
@@ -16,11 +17,6 @@ std::u16string prompt_text(const HostPromptRequest& request) {
   return text;
 }
 
-std::u16string_view without_outer_blanks(std::u16string_view text) {
-  const auto is_blank = [](char16_t unit) { return unit == u' ' || unit == u'\t'; };
-  while (!text.empty() && is_blank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && is_blank(text.back())) text.remove_suffix(1);
-  return text;
-}
+std::u16string_view without_outer_blanks(std::u16string_view text) { return odTrimmed(text, u" \t"); }
 
 }  // namespace host

@@ -5,6 +5,7 @@
 #include <optional>
 #include <stdexcept>
 
+#include "host/prompt_text.h"
 #include "od/base/unicode.h"
 #include "od/base/whole_number.h"
 
@@ -16,45 +17,40 @@ constexpr int kLongestWait = 3600 * 1000;
 
 [[noreturn]] void refuse(const std::string& reason) { throw std::invalid_argument(reason); }
 
-std::u16string_view trimmed(std::u16string_view text) {
-  const std::size_t start = text.find_first_not_of(u" \t");
-  if (start == std::u16string_view::npos) return {};
-  return text.substr(start, text.find_last_not_of(u" \t") - start + 1);
-}
-
 std::optional<double> readNumber(std::u16string_view text) {
-  const auto value = odWholeNumber<double>(odToUtf8(trimmed(text)));
+  const auto value = odWholeNumber<double>(odToUtf8(host::without_outer_blanks(text)));
   return value && std::isfinite(*value) ? value : std::nullopt;
 }
 
 MouseStep readMouse(MouseAction action, std::u16string_view argument) {
-  std::u16string_view point = trimmed(argument);
+  std::u16string_view point = host::without_outer_blanks(argument);
   MouseStep step{.action = action, .held = takeHeldKeys(point)};
   const std::size_t comma = point.find(u',');
   const std::optional<double> x = readNumber(point.substr(0, comma));
   const std::optional<double> y =
       comma == std::u16string_view::npos ? std::nullopt : readNumber(point.substr(comma + 1));
-  if (!x || !y) refuse("\"" + odToUtf8(trimmed(argument)) + "\" is not a point such as 10,20.");
+  if (!x || !y)
+    refuse("\"" + odToUtf8(host::without_outer_blanks(argument)) + "\" is not a point such as 10,20.");
   step.x = *x;
   step.y = *y;
   return step;
 }
 
 Step readKey(std::u16string_view argument) {
-  const std::optional<KeyChord> chord = parseKeyChord(trimmed(argument));
-  if (!chord) refuse("\"" + odToUtf8(trimmed(argument)) + "\" names no key.");
+  const std::optional<KeyChord> chord = parseKeyChord(host::without_outer_blanks(argument));
+  if (!chord) refuse("\"" + odToUtf8(host::without_outer_blanks(argument)) + "\" names no key.");
   return PressKey{*chord};
 }
 
 Step readWait(std::u16string_view argument) {
   const std::optional<double> time = readNumber(argument);
   if (!time || *time < 0 || *time > kLongestWait || *time != std::floor(*time))
-    refuse("\"" + odToUtf8(trimmed(argument)) + "\" is not a time in whole milliseconds.");
+    refuse("\"" + odToUtf8(host::without_outer_blanks(argument)) + "\" is not a time in whole milliseconds.");
   return WaitStep{static_cast<int>(*time)};
 }
 
 Step readAnswer(std::u16string_view argument) {
-  const std::u16string_view word = trimmed(argument);
+  const std::u16string_view word = host::without_outer_blanks(argument);
   if (odEqualNoCase(word, u"yes")) return AnswerStep{ScriptAnswer::yes};
   if (odEqualNoCase(word, u"no")) return AnswerStep{ScriptAnswer::no};
   if (odEqualNoCase(word, u"cancel")) return AnswerStep{ScriptAnswer::cancel};
@@ -62,12 +58,14 @@ Step readAnswer(std::u16string_view argument) {
 }
 
 Step readMenu(std::u16string_view argument) {
-  const std::u16string_view entry = trimmed(argument);
+  const std::u16string_view entry = host::without_outer_blanks(argument);
   if (entry.empty()) refuse("\"@menu\" names no entry of a menu.");
   return MenuStep{std::u16string(entry)};
 }
 
-Step readField(std::u16string_view argument) { return FieldStep{std::u16string(trimmed(argument))}; }
+Step readField(std::u16string_view argument) {
+  return FieldStep{std::u16string(host::without_outer_blanks(argument))};
+}
 
 Step readType(std::u16string_view argument) { return TypeCharacters{std::u16string(argument)}; }
 

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "editor/rich_text/css_color.h"
+#include "od/base/trimmed.h"
 
 namespace rich {
 
@@ -33,12 +34,7 @@ constexpr role_row kRoles[] = {
     {"title", html_role::hidden},    {"tr", html_role::block},        {"ul", html_role::unordered},
 };
 
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t\r\n\f";
-  const std::size_t first = text.find_first_not_of(kBlanks);
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view trimmed(std::string_view text) { return odTrimmed(text, " \t\r\n\f"); }
 
 std::string lower(std::string_view text) {
   std::string result(text);

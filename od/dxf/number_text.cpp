@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 
+#include "od/base/trimmed.h"
 #include "od/base/whole_number.h"
 
 namespace dxf {
@@ -19,11 +20,7 @@ std::optional<Number> parse_all(std::string_view text, Format... format) {
 
 }  // namespace
 
-std::string_view trim(std::string_view text) {
-  const std::size_t begin = text.find_first_not_of(" \t");
-  if (begin == std::string_view::npos) return {};
-  return text.substr(begin, text.find_last_not_of(" \t") - begin + 1);
-}
+std::string_view trim(std::string_view text) { return odTrimmed(text, " \t"); }
 
 std::optional<double> parse_double(std::string_view text) {
   const auto value = parse_all<double>(trim(text));

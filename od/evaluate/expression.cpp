@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "od/base/trimmed.h"
 #include "od/base/unicode.h"
 #include "od/base/whole_number.h"
 #include "od/field/field_markers.h"
@@ -160,9 +161,6 @@ std::optional<double> odEvaluateExpression(
 }
 
 std::optional<double> odNumberOf(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return {};
-  text = text.substr(first, text.find_last_not_of(u' ') - first + 1);
-  const auto value = odWholeNumber<double>(odToUtf8(text));
+  const auto value = odWholeNumber<double>(odToUtf8(odTrimmed(text, u" ")));
   return value && std::isfinite(*value) ? value : std::nullopt;
 }

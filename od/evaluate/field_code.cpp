@@ -1,14 +1,9 @@
 #include "od/evaluate/field_code.h"
 
+#include "od/base/trimmed.h"
 #include "od/field/evaluator_name.h"
 
 namespace {
-
-std::u16string_view trimmed(std::u16string_view text) {
-  const std::size_t first = text.find_first_not_of(u' ');
-  if (first == text.npos) return {};
-  return text.substr(first, text.find_last_not_of(u' ') - first + 1);
-}
 
 /// The code without the evaluator's name and the version behind it.
 std::u16string_view behindEvaluator(std::u16string_view code, std::u16string_view evaluator) {
@@ -37,6 +32,6 @@ OdFieldCode odReadFieldCode(std::u16string_view code) {
   if (read.evaluator.empty()) return read;
   std::u16string_view rest = behindEvaluator(code, read.evaluator);
   read.format = takeFormat(rest);
-  read.subject = trimmed(rest);
+  read.subject = odTrimmed(rest, u" ");
   return read;
 }

@@ -7,6 +7,7 @@
 #include <unordered_set>
 
 #include "od/base/OdError.h"
+#include "od/base/trimmed.h"
 #include "od/base/unicode.h"
 #include "od/base/whole_number.h"
 #include "od/fonts/FontLines.h"
@@ -21,12 +22,7 @@ constexpr double kLeastReplacement = 3;
 constexpr char32_t kDiamond = 0x110000;  ///< a key that no character has
 constexpr double kFarthest = 1e6;
 
-std::string_view trimmed(std::string_view text) {
-  constexpr std::string_view kBlanks = " \t";
-  std::size_t first = text.find_first_not_of(kBlanks);
-  return first == text.npos ? std::string_view()
-                            : text.substr(first, text.find_last_not_of(kBlanks) - first + 1);
-}
+std::string_view trimmed(std::string_view text) { return odTrimmed(text, " \t"); }
 
 /// A finite number of reasonable size, 0 for anything else.
 double number(std::string_view text) {
