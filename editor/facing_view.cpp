@@ -42,7 +42,8 @@ OdGeVector3d facing_shift(const OdGsView& view, const shown_text& text, const sc
   const OdGsDeviceRect& device = view.deviceRect();
   const OdGeMatrix3d unmoved = facing_transform(text.frame, axes, reading.magnification, {0, 0, 0});
   const OdGeMatrix3d to_device = view.worldToDeviceMatrix() * unmoved * text.frame.text_to_world();
-  OdGeExtents3d box = text.extents_and_tools;
+  OdGeExtents3d box = text.extents;
+  if (text.tools) box.addExt(text.tools(view.pixelSize() / reading.magnification));
   box.transformBy(to_device);
   const OdGePoint3d caret = to_device * text.caret_middle();
   const OdGeVector3d size = box.maxPoint() - box.minPoint();

@@ -40,4 +40,8 @@ void gadget_tree::draw(OdGiViewportDraw& draw) const {
   geometry.traits() = before;
 }
 
-micui::extents gadget_tree::reach() const { return is_open() ? m_root->parent_extents() : micui::extents(); }
+OdGeExtents3d gadget_tree::reach(double units_per_pixel) const {
+  fit(units_per_pixel);
+  const micui::extents box = m_root->parent_extents();
+  return OdGeExtents3d({box.min_x, box.min_y, 0}, {box.max_x, box.max_y, 0});
+}

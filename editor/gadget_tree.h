@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editor/gadgets/editor.h"
+#include "od/ge/OdGeExtents3d.h"
 
 class ExMTextEditable;
 
@@ -21,8 +22,9 @@ class gadget_tree {
   void fit(double units_per_pixel) const;
   /// Draws the gadgets as they now have to be, in the text's plane; nothing while not open.
   void draw(OdGiViewportDraw& draw) const;
-  /// Box of the text and all gadgets in text coordinates; empty while not open.
-  micui::extents reach() const;
+  /// Box of the text and all gadgets in text coordinates, laid out for pixels of this length. Only while
+  /// open.
+  OdGeExtents3d reach(double units_per_pixel) const;
 
  private:
   const ExMTextEditable* m_text = nullptr;

@@ -14,11 +14,7 @@ editing::shown_text smart_edit::shownText() const {
   shown.extents = m_editable->textExtents();
   for (const OdGePoint2d& end : {shown.caret_top, shown.caret_bottom})
     shown.extents.addPoint({end.x, end.y, 0});
-  shown.extents_and_tools = shown.extents;
-  const micui::extents tools = m_gadgets.reach();
-  if (tools.is_empty()) return shown;
-  shown.extents_and_tools.addPoint({tools.min_x, tools.min_y, 0});
-  shown.extents_and_tools.addPoint({tools.max_x, tools.max_y, 0});
+  if (m_gadgets.is_open()) shown.tools = [this](double pixel) { return m_gadgets.reach(pixel); };
   return shown;
 }
 

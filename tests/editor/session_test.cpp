@@ -173,6 +173,21 @@ TEST(Session, the_caret_begins_where_the_command_points) {
   EXPECT_EQ(session.editable().selections()[0].begin, 4U);
 }
 
+TEST(Session, a_facing_text_does_not_jump_at_the_first_key) {
+  edited_drawing drawing;
+  drawing.application.profile().setNumber(u"Text", u"Rotate", 1);
+  drawing.application.document().view().gsView().setView({0, 15, 1}, {0, 15, 0}, {0, 1, 0}, 80, 60);
+  drawing.text->setTextHeight(0.2);
+  drawing.text->setWidth(3);
+  drawing.text->setLocation({39.5, 20, 0});
+  drawing.text->setRotation(std::numbers::pi);
+  smart_edit& session = drawing.begin();
+  const OdGePoint3d opened = session.worldPoint({0, 0});
+  session.fitGadgets();
+  drawing.send({.number = WM_KEYDOWN, .code = VK_RIGHT});
+  EXPECT_TRUE(session.worldPoint({0, 0}).isEqualTo(opened));
+}
+
 TEST(Session, text_stands_in_the_editor_where_the_entity_has_it_for_every_attachment) {
   for (int attachment = 1; attachment <= 9; ++attachment) {
     for (const double height : {0.0, 30.0}) {

@@ -26,7 +26,6 @@ struct placed_text {
     text.extents = OdGeExtents3d();
     text.extents.addPoint({0, 0, 0});
     text.extents.addPoint({2.5 * height, -height, 0});
-    text.extents_and_tools = text.extents;
     text.caret_top = {2.5 * height, 0};
     text.caret_bottom = {2.5 * height, -height};
   }
@@ -83,6 +82,17 @@ TEST(ViewPolicy, a_facing_text_has_its_caret_in_sight) {
   placed.changed(true);
   const OdGePoint2d caret = placed.seen(5, -1);
   EXPECT_TRUE(placed.view.deviceRect().contains(caret)) << caret.x << ' ' << caret.y;
+}
+
+TEST(ViewPolicy, a_facing_text_moves_no_further_into_the_view_than_its_tools_reach) {
+  placed_text placed;
+  placed.sized(0.2);
+  placed.text.frame.location = {39.9, 0, 0};
+  placed.text.tools = [](double pixel) { return OdGeExtents3d({0, 0, 0}, {0.5 + 30 * pixel, 0, 0}); };
+  placed.turn(std::numbers::pi);
+  placed.begin();
+  ASSERT_EQ(placed.changed(true), outcome::kTextFacing);
+  EXPECT_NEAR(placed.seen(0.5, 0).x + 30, 796, 1e-9) << "with a margin of 0.5 % of the view";
 }
 
 TEST(ViewPolicy, the_insertion_point_of_a_facing_text_in_sight_stays_where_it_is) {
