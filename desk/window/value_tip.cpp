@@ -7,10 +7,11 @@ namespace {
 constexpr int kDistance = 16;
 constexpr int kMargin = 3;
 
-/// Behind the mouse if that is within the view, else before it.
+/// Behind the mouse if that is within the view, else before it; at the edge beyond which the mouse has left.
 int placed(int mouse, int length, int room) {
   const int behind = mouse + kDistance;
-  return behind + length <= room ? behind : std::max(0, mouse - kDistance - length);
+  const int wanted = behind + length <= room ? behind : mouse - kDistance - length;
+  return std::max(0, std::min(wanted, room - length));
 }
 
 }  // namespace
