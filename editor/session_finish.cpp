@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "editor/smart_edit.h"
 #include "host/document.h"
 
@@ -17,6 +19,12 @@ OdDb::ColumnType column_type(const mtext::column_settings& columns) {
   return columns.heights.size() == 1 ? OdDb::kNoColumns : OdDb::kStaticColumns;
 }
 
+/// Columns of automatic height are as many as the text fills.
+int column_count(const mtext::geom_multitext& text) {
+  const std::size_t set = text.info.columns.heights.size();
+  return static_cast<int>(text.info.columns.kind == 2 ? std::max(set, text.columns.size()) : set);
+}
+
 }  // namespace
 
 /// A field that shows something else has the same codes.
@@ -34,7 +42,7 @@ void smart_edit::writeColumns(OdDbMText& target) {
   if (type == OdDb::kNoColumns) return;
   target.setColumnWidth(columns.width);
   target.setColumnGutterWidth(columns.gutter);
-  target.setColumnCount(static_cast<int>(columns.heights.size()));
+  target.setColumnCount(column_count(m_editable->text()));
   target.setColumnAutoHeight(columns.kind == 2);
   if (columns.kind != 1) return;
   for (std::size_t i = 0; i < columns.heights.size(); ++i)

@@ -7,6 +7,9 @@
 #include "mtext/entity/draw_parts.h"
 #include "mtext/entity/entity_format.h"
 #include "mtext/entity/mtext_size_finder.h"
+#include "mtext/flatten.h"
+#include "mtext/parse.h"
+#include "mtext/serialize.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbMText.h"
 #include "od/gi/OdGiContext.h"
@@ -44,6 +47,13 @@ double right_end(const geom_multitext& text, const geom_line& line) {
   if (line.first == line.last) return line.x;
   const geom_part& last = text.parts[line.last - 1];
   return is_terminator(last) ? last.x : last.x + last.size.advance;
+}
+
+/// True when codes come back from the logical text as they are written here.
+bool is_own_spelling(const std::u16string& codes, const format::string& base, double height) {
+  multitext read;
+  parse(codes, base, read, {});
+  return serialize(read, base, height) == codes;
 }
 
 }  // namespace
@@ -89,6 +99,24 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
   const OdGeVector2d offset = origin_offset(laid);
   const double height = highest_column(laid)->height - last_line_leading(laid);
   return {high.x - low.x, height, low + offset, high + offset};
+}
+
+std::vector<OdString> mtext_layout::columnContents(const OdDbMText& text) {
+  const auto entity = pointer_to(text);
+  const format::string base = drawn_mtext_format(entity);
+  const double height = text.textHeight();
+  for (const OdString& contents : text.contentsByEntity()) {
+    if (!is_own_spelling(contents.str(), base, height)) return {};
+  }
+  const auto laid = laid_out(text);
+  if (!laid->marks.empty()) return {};
+  std::vector<OdString> contents;
+  for (const geom_column& column : laid->columns) {
+    geom_multitext part = laid->slice(column.first, column.last - column.first);
+    part.format = paragraph_at(*laid, column.first);
+    contents.push_back(serialize(flatten(part), base, height));
+  }
+  return contents;
 }
 
 void mtext_layout::draw(const OdDbMText& text, OdGiWorldDraw& draw) {

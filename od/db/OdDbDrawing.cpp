@@ -119,6 +119,11 @@ void OdDbDrawing::addEntity(OdDbStub& block, OdDbStub& entity) {
   blockObject(block).m_entities.push_back(&entity);
 }
 
+void OdDbDrawing::dropParts(OdDbStub& block) {
+  std::erase_if(blockObject(block).m_entities,
+                [&](const OdDbStub* entity) { return entity->owner != &block; });
+}
+
 void OdDbDrawing::setSpaces(OdDbStub& model, OdDbStub& paper) {
   m_modelSpace = &model;
   m_paperSpace = &paper;
@@ -152,6 +157,15 @@ OdDbObjectId OdDbDrawing::append(OdDbBlockTableRecord& block, OdDbEntity& entity
   addEntity(*block.m_stub, stub);
   adopt(entity, stub);
   return OdDbObjectId(&stub);
+}
+
+OdDbObjectId OdDbDrawing::appendPart(OdDbStub& host, OdDbEntity& part) {
+  OdDbStub& block = *host.owner;
+  const OdDbObjectId id = append(blockObject(block), part);
+  id.stub()->owner = &host;
+  host.parts.push_back(id.stub());
+  dropParts(block);
+  return id;
 }
 
 dxf::Record& OdDbDrawing::endOfObjects() {
@@ -194,7 +208,20 @@ void OdDbDrawing::adopt(OdDbEntity& entity, OdDbStub& stub) {
   entity.touch();
 }
 
+/// Lets each object that somebody opened settle what it leaves for the moment before a drawing is written.
+void OdDbDrawing::settleObjects() {
+  const std::size_t count = m_stubs.size();
+  for (std::size_t i = 0; i < count; ++i) {
+    OdDbStub& stub = m_stubs[i];
+    if (!stub.object || stub.erased || !stub.object->isUnsettled()) continue;
+    const OdDbObjectPtr open =
+        stub.object->isWriteEnabled() ? stub.object : OdDbObjectId(&stub).openObject(OdDb::kForWrite);
+    open->settle();
+  }
+}
+
 std::string OdDbDrawing::write() {
+  settleObjects();
   // Erased records leave the list for the time of writing, and come back to their places.
   struct Erased {
     std::unique_ptr<dxf::Record> record;

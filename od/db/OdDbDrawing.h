@@ -32,13 +32,15 @@ class OdDbDrawing {
   /// True when new objects of this file are written with a handle.
   bool writesHandles() const { return m_writesHandles; }
   OdDbObjectId append(OdDbBlockTableRecord& block, OdDbEntity& entity);
+  /// The same in the block where `host` lies, as a part of it.
+  OdDbObjectId appendPart(OdDbStub& host, OdDbEntity& part);
   /// Whether a new object names its owner as one that is told of changes, too.
   enum OwnerReaction { kOwnerKeepsQuiet, kOwnerReacts };
   /// A new record at the end of the section OBJECTS, with handle and owner and nothing else.
   OdDbStub& addObject(std::string_view type, OdDbHandle owner, OwnerReaction reaction);
   /// The dictionary that all others hang on; null in a drawing without any.
   OdDbObjectId rootDictionary() const;
-  /// The file's bytes without the erased records.
+  /// The file's bytes without the erased records, behind what objects have still to settle.
   std::string write();
 
   /// For loading.
@@ -53,9 +55,13 @@ class OdDbDrawing {
   /// The records that begin and end a block; null leaves what was said before.
   void setBlockMarks(OdDbStub& block, dxf::Record* begin, dxf::Record* end);
   void addEntity(OdDbStub& block, OdDbStub& entity);
+  /// Takes those out of a block's list that have become parts of another entity: whose owner it is no more.
+  /// Costs a walk through the list.
+  void dropParts(OdDbStub& block);
   void setSpaces(OdDbStub& model, OdDbStub& paper);
 
  private:
+  void settleObjects();
   void countHandles();
   OdDbHandle takeHandle();
   OdDbHandle takeInternalNumber();

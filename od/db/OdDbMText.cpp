@@ -51,14 +51,22 @@ void OdDbMText::recordMoved(const dxf::Record& before) {
   }
 }
 
+OdDbGroupEditor OdDbMText::editForm() {
+  assertWriteEnabled();
+  return {record(), kMText, [this] {
+            m_formChanged = true;
+            touch();
+          }};
+}
+
 double OdDbMText::textHeight() const { return groups(kMText).real(40, 0); }
 
-void OdDbMText::setTextHeight(double height) { edit(kMText).setReal(40, height); }
+void OdDbMText::setTextHeight(double height) { editForm().setReal(40, height); }
 
 double OdDbMText::width() const { return groups(kMText).real(41, 0); }
 
 void OdDbMText::setWidth(double width) {
-  edit(kMText).setReal(41, width, 0);
+  editForm().setReal(41, width, 0);
   odSetEmbeddedReal(record(), 40, width);
 }
 
@@ -74,9 +82,10 @@ void OdDbMText::setHeight(double height) {
   if (this->height() == height) return;
   const bool inXdata = Xdata::find(record(), Xdata::kDefinedHeight).has_value();
   const bool isOld = record().manner().version < dxf::R2007;
-  if (!isOld || groups(kMText).has(46)) edit(kMText).setReal(46, height, 0);
+  if (!isOld || groups(kMText).has(46)) editForm().setReal(46, height, 0);
   odSetEmbeddedReal(record(), 41, height);
   if (inXdata || isOld) Xdata::write(record(), Xdata::kDefinedHeight, {{46, height}});
+  m_formChanged = true;
   touch();
 }
 
@@ -87,7 +96,7 @@ OdDb::AttachmentPoint OdDbMText::attachment() const {
 
 void OdDbMText::setAttachment(OdDb::AttachmentPoint attachment) {
   if (this->attachment() == attachment) return;
-  edit(kMText).setInteger(71, attachment);
+  editForm().setInteger(71, attachment);
   odSetEmbeddedInteger(record(), 70, attachment);
 }
 
@@ -105,7 +114,7 @@ OdDb::FlowDirection OdDbMText::flowDirection() const {
 }
 
 void OdDbMText::setFlowDirection(OdDb::FlowDirection direction) {
-  if (flowDirection() != direction) edit(kMText).setInteger(72, direction);
+  if (flowDirection() != direction) editForm().setInteger(72, direction);
 }
 
 OdString OdDbMText::textStyleName() const { return groups(kMText).string(7, u"Standard"); }
@@ -117,7 +126,7 @@ OdDbObjectId OdDbMText::textStyle() const {
 void OdDbMText::setTextStyle(OdDbObjectId style) {
   if (style == textStyle()) return;
   const OdString name = odCastOrThrow<OdDbTextStyleTableRecord>(style.openObject())->getName();
-  if (textStyleName().iCompare(name.str()) != 0) edit(kMText).setString(7, name, u"Standard");
+  if (textStyleName().iCompare(name.str()) != 0) editForm().setString(7, name, u"Standard");
 }
 
 OdDb::LineSpacingStyle OdDbMText::lineSpacingStyle() const {
@@ -125,12 +134,12 @@ OdDb::LineSpacingStyle OdDbMText::lineSpacingStyle() const {
 }
 
 void OdDbMText::setLineSpacingStyle(OdDb::LineSpacingStyle style) {
-  if (lineSpacingStyle() != style) edit(kMText).setInteger(73, style);
+  if (lineSpacingStyle() != style) editForm().setInteger(73, style);
 }
 
 double OdDbMText::lineSpacingFactor() const { return groups(kMText).real(44, 1); }
 
-void OdDbMText::setLineSpacingFactor(double factor) { edit(kMText).setReal(44, factor, 1); }
+void OdDbMText::setLineSpacingFactor(double factor) { editForm().setReal(44, factor, 1); }
 
 void OdDbMText::setDatabaseDefaults(OdDbDatabase* source) {
   OdDbEntity::setDatabaseDefaults(source);

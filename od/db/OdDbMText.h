@@ -20,6 +20,16 @@ class OdDbMText : public OdDbEntity {
   OdString contents() const;
   void setContents(const OdString& contents);
 
+  /// Before R2018 each column behind the first is a text of its own in the file; here they are one text. The
+  /// entities that hold those columns, in their order; none for a text without.
+  std::vector<OdDbObjectId> linkedColumns() const;
+  /// The contents by the entities that hold them: what each says when it stands alone. One at least.
+  std::vector<OdString> contentsByEntity() const;
+
+  /// The field of the whole text: those of its columns put together. See `OdDbObject::getField`.
+  OdRxObjectPtr getField(const OdString& name, OdDb::OpenMode mode = OdDb::kForRead) const override;
+  void removeField(const OdString& name) override;
+
   OdGePoint3d location() const;
   void setLocation(const OdGePoint3d& location);
   OdGeVector3d normal() const;
@@ -106,6 +116,8 @@ class OdDbMText : public OdDbEntity {
  protected:
   OdString fieldHostText() const override;
   void setFieldHostText(const OdDbField& field) override;
+  bool isUnsettled() const override { return m_textChanged || m_formChanged; }
+  void settle() override;
   void recordMoved(const dxf::Record& before) override;
   void drawGeometry(OdGiWorldDraw& draw) const override;
   std::unique_ptr<dxf::Record> newRecord() const override;
@@ -114,11 +126,37 @@ class OdDbMText : public OdDbEntity {
   OdDbMTextMeasure measured() const;
   OdDbMTextColumns columns() const;
   void setColumns(const OdDbMTextColumns& columns);
+  /// For changing what the columns of a text have in common.
+  OdDbGroupEditor editForm();
   OdString ownContents() const;
+  /// Those of this entity alone, the true ones where the file has two.
+  OdString ownTrueContents() const;
+  void setOwnContents(const OdString& contents);
   dxf::Record* trueContents() const;
+
+  // ---- mtext_linked_columns.cpp
+  std::vector<OdSmartPtr<OdDbMText>> openLinkedColumns(OdDb::OpenMode mode) const;
+  void emptyLinkedColumns();
+
+  // ---- mtext_settling.cpp
+  bool linksColumns() const;
+  std::vector<OdString> laidOutColumns() const;
+  void putAllIntoFirst();
+  void gatherLinkedColumns();
+  void spreadLinkedColumns();
+  void setLinkedColumnCount(std::size_t count);
+  void appendLinkedColumn();
+  void eraseLinkedColumn();
+  void takeForm(const OdDbMText& first, std::size_t column);
+  void writeLaidOutSize();
+
   OdDbMTextBackground background() const;
   void setBackground(const OdDbMTextBackground& background);
   void drawBackground(OdGiWorldDraw& draw, const OdDbMTextMeasure& size) const;
+
+  // Since the drawing was read or written.
+  bool m_textChanged = false;
+  bool m_formChanged = false;
 };
 
 using OdDbMTextPtr = OdSmartPtr<OdDbMText>;

@@ -1,5 +1,8 @@
 #pragma once
 
+#include <vector>
+
+#include "od/base/OdString.h"
 #include "od/ge/OdGePoint2d.h"
 
 class OdDbMText;
@@ -19,6 +22,9 @@ class OdDbMTextLayout {
   virtual ~OdDbMTextLayout() = default;
 
   virtual OdDbMTextMeasure measure(const OdDbMText& text) = 0;
+  /// What stands in each column, as a text that can stand alone: together they are the text. Empty when it
+  /// holds fields, or codes that would be written in another way.
+  virtual std::vector<OdString> columnContents(const OdDbMText& text) = 0;
   /// Draws the characters in text coordinates: the transform to the world is on the geometry's stack already,
   /// the entity's colour is set, and background and frame are drawn.
   virtual void draw(const OdDbMText& text, OdGiWorldDraw& draw) = 0;

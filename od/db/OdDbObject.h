@@ -56,14 +56,14 @@ class OdDbObject : public OdGiDrawable {
 
   /// The field that the extension dictionary holds under `name` ("TEXT"); null when there is none, or when
   /// the text was changed since without it. A value that is no field comes back as what it is.
-  OdRxObjectPtr getField(const OdString& name, OdDb::OpenMode mode = OdDb::kForRead) const;
+  virtual OdRxObjectPtr getField(const OdString& name, OdDb::OpenMode mode = OdDb::kForRead) const;
   /// Takes `field`, a container (`OdDbField::kTextField`), under `name`: the object shows its text, with what
   /// the children show. In the drawing each field becomes an object; those that were read from this object's
   /// field keep theirs. A drawing of a version without such objects keeps the text alone, and null is given.
   /// Throws `OdError(eInvalidInput)` for what is no container.
   OdDbObjectId setField(const OdString& name, const OdDbField& field);
   /// Takes the field out, with its objects; the text stays.
-  void removeField(const OdString& name);
+  virtual void removeField(const OdString& name);
   /// The extension dictionary, or null.
   OdDbObjectId extensionDictionary() const;
 
@@ -107,6 +107,10 @@ class OdDbObject : public OdGiDrawable {
   virtual OdString fieldHostText() const { return {}; }
   /// Shows the text of a container; nothing happens for what has no text.
   virtual void setFieldHostText(const OdDbField&) {}
+  /// True when the object has something left to do before its drawing is written.
+  virtual bool isUnsettled() const { return false; }
+  /// Does it. Called before each time the drawing is written, with the object open for write.
+  virtual void settle() {}
   /// Called when the object's groups have been written anew in the manner of the file that it came into;
   /// `before` is the record as it was.
   virtual void recordMoved(const dxf::Record& before);

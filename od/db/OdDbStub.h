@@ -16,6 +16,7 @@ struct OdDbStub {
   bool erased = false;
   dxf::Record* record = nullptr;  ///< null for what the file does not write down
   OdDbStub* owner = nullptr;      ///< null where the handle in the record tells it
-  std::vector<OdDbStub*> parts;   ///< attributes, vertices and the closing mark of a compound entity
-  OdDbObjectPtr object;           ///< made when it is opened first
+  /// Attributes, vertices and the closing mark of a compound entity; the further columns of a text.
+  std::vector<OdDbStub*> parts;
+  OdDbObjectPtr object;  ///< made when it is opened first
 };

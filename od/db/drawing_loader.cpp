@@ -6,6 +6,7 @@
 #include "od/db/OdDbDrawing.h"
 #include "od/db/OdDbLayerTableRecord.h"
 #include "od/db/OdDbTextStyleTableRecord.h"
+#include "od/db/linked_columns.h"
 
 namespace {
 
@@ -66,7 +67,9 @@ void loadTableRecords(OdDbDrawing& drawing) {
 /// Sorts the records of a list of entities into entities and their parts.
 class EntityReader {
  public:
-  explicit EntityReader(OdDbDrawing& drawing) : m_drawing(drawing) {}
+  /// `linking` gets the texts whose further columns are entities of their own.
+  EntityReader(OdDbDrawing& drawing, std::vector<OdDbStub*>& linking)
+      : m_drawing(drawing), m_linking(linking) {}
 
   void read(dxf::Record& record, OdDbStub& block) {
     if (m_host && isPart(record)) {
@@ -77,6 +80,7 @@ class EntityReader {
     }
     OdDbStub& stub = m_drawing.addStub(&record, &block, OdDbStub::kEntity);
     m_drawing.addEntity(block, stub);
+    if (record.is("MTEXT") && !odLinkedHandles(record).empty()) m_linking.push_back(&stub);
     m_host = record.is("INSERT") || record.is("POLYLINE") ? &stub : nullptr;
   }
 
@@ -90,6 +94,7 @@ class EntityReader {
   }
 
   OdDbDrawing& m_drawing;
+  std::vector<OdDbStub*>& m_linking;
   OdDbStub* m_host = nullptr;
 };
 
@@ -104,10 +109,10 @@ OdDbStub& blockOf(OdDbDrawing& drawing, dxf::Record& begin) {
   return block;
 }
 
-void loadBlocks(OdDbDrawing& drawing) {
+void loadBlocks(OdDbDrawing& drawing, std::vector<OdDbStub*>& linking) {
   forEachSection(drawing, "BLOCKS", [&](const dxf::Section& section) {
     OdDbStub* block = nullptr;
-    EntityReader entities(drawing);
+    EntityReader entities(drawing, linking);
     for (dxf::Record* r = section.begin->next(); r && r != section.end; r = r->next()) {
       if (r->is("BLOCK")) {
         block = &blockOf(drawing, *r);
@@ -131,12 +136,12 @@ OdDbStub& spaceOf(OdDbDrawing& drawing, const char16_t* name, const char16_t* ol
 
 bool isOnPaper(const dxf::Record& record) { return record.int_or(67, record.body(), 0) == 1; }
 
-void loadEntities(OdDbDrawing& drawing) {
+void loadEntities(OdDbDrawing& drawing, std::vector<OdDbStub*>& linking) {
   OdDbStub& model = spaceOf(drawing, u"*Model_Space", u"$MODEL_SPACE");
   OdDbStub& paper = spaceOf(drawing, u"*Paper_Space", u"$PAPER_SPACE");
   drawing.setSpaces(model, paper);
   forEachSection(drawing, "ENTITIES", [&](const dxf::Section& section) {
-    EntityReader entities(drawing);
+    EntityReader entities(drawing, linking);
     for (dxf::Record* r = section.begin->next(); r && r != section.end; r = r->next()) {
       entities.read(*r, isOnPaper(*r) ? paper : model);
     }
@@ -164,7 +169,9 @@ void odLoadDrawing(OdDbDrawing& drawing) {
   loadTableHeads(drawing);
   loadTableRecords(drawing);
   addMissingRecords(drawing);
-  loadBlocks(drawing);
-  loadEntities(drawing);
+  std::vector<OdDbStub*> linking;
+  loadBlocks(drawing, linking);
+  loadEntities(drawing, linking);
+  odLinkColumns(drawing, linking);
   loadObjects(drawing);
 }

@@ -12,6 +12,7 @@ void OdDbMText::setColumns(const OdDbMTextColumns& columns) {
   assertWriteEnabled();
   if (columns == OdDbMTextColumns::read(record())) return;
   columns.write(record());
+  m_formChanged = true;
   touch();
 }
 

@@ -2,6 +2,7 @@
 #include "od/db/OdDbDictionary.h"
 #include "od/db/OdDbDrawing.h"
 #include "od/db/OdDbMText.h"
+#include "od/db/column_join.h"
 #include "od/db/field_reader.h"
 #include "od/db/mtext_subclass.h"
 #include "od/dxf/chunked_text.h"
@@ -43,16 +44,30 @@ dxf::Record* OdDbMText::trueContents() const {
   return sum && kept->get_double(*sum) == odTextChecksum(ownContents().str()) ? kept : nullptr;
 }
 
-OdString OdDbMText::contents() const {
+OdString OdDbMText::ownTrueContents() const {
   if (const dxf::Record* kept = trueContents())
     return dxf::read_chunked_text(*kept, kept->body(), kAllInOnes);
   return ownContents();
 }
 
+OdString OdDbMText::contents() const {
+  std::vector<std::u16string> texts;
+  for (const OdString& text : contentsByEntity()) texts.push_back(text.str());
+  return odJoinColumns(texts);
+}
+
 void OdDbMText::setContents(const OdString& contents) {
   assertWriteEnabled();
+  if (this->contents() == OdString(record().manner().codec.escape_missing(contents.str()))) return;
+  emptyLinkedColumns();
+  setOwnContents(contents);
+}
+
+void OdDbMText::setOwnContents(const OdString& contents) {
+  assertWriteEnabled();
   const std::u16string written = record().manner().codec.escape_missing(contents.str());
-  if (this->contents() == OdString(written)) return;
+  if (ownTrueContents() == OdString(written)) return;
+  m_textChanged = true;
   dxf::Record* kept = trueContents();
   const OdDbGroupEditor text = edit(kMText);
   dxf::write_chunked_text(record(), text.range(), text.place(1), contents.str());
@@ -64,4 +79,7 @@ void OdDbMText::setContents(const OdString& contents) {
 
 OdString OdDbMText::fieldHostText() const { return ownContents(); }
 
-void OdDbMText::setFieldHostText(const OdDbField& field) { setContents(odContainerText(field, asLetters)); }
+void OdDbMText::setFieldHostText(const OdDbField& field) {
+  emptyLinkedColumns();
+  setOwnContents(odContainerText(field, asLetters));
+}

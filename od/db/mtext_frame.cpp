@@ -29,7 +29,7 @@ OdGePoint3d OdDbMText::location() const { return groups(kMText).point(10); }
 void OdDbMText::setLocation(const OdGePoint3d& location) {
   assertWriteEnabled();
   if (isSamePlace(this->location(), location)) return;
-  edit(kMText).setPoint(10, location);
+  editForm().setPoint(10, location);
   odSetEmbeddedPoint(record(), 11, location);
 }
 
@@ -39,7 +39,7 @@ void OdDbMText::setNormal(const OdGeVector3d& normal) {
   const OdGeVector3d unit = normal.normal();
   if (unit.isZeroLength()) throw OdError(eInvalidInput);
   if (unit.isEqualTo(this->normal())) return;
-  edit(kMText).setPoint(210, {unit.x, unit.y, unit.z}, OdGePoint3d{0, 0, 1});
+  editForm().setPoint(210, {unit.x, unit.y, unit.z}, OdGePoint3d{0, 0, 1});
 }
 
 OdGeVector3d OdDbMText::direction() const {
@@ -56,7 +56,7 @@ void OdDbMText::setDirection(const OdGeVector3d& direction) {
   const OdGeVector3d unit = direction.normal();
   if (unit.isZeroLength()) throw OdError(eInvalidInput);
   if (unit.isEqualTo(this->direction())) return;
-  OdDbGroupEditor text = edit(kMText);
+  OdDbGroupEditor text = editForm();
   text.remove(50);
   text.setPoint(11, {unit.x, unit.y, unit.z});
   odSetEmbeddedPoint(record(), 10, {unit.x, unit.y, unit.z});

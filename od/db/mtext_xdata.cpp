@@ -47,9 +47,12 @@ struct Inserter {
   void operator()(double value) const { record.insert_double(at++, 1040, value); }
   void operator()(std::int64_t value) const { record.insert_int(at++, 1071, value); }
   void operator()(const std::u16string& value) const { record.insert_string(at++, 1000, value); }
+  void operator()(OdDbHandle value) const { record.insert_handle(at++, 1005, value.value()); }
 };
 
-std::size_t endOfApplicationData(dxf::Record& record) {
+std::size_t placeOfNewBlock(dxf::Record& record) {
+  if (const auto height = OdDbMTextXdata::find(record, OdDbMTextXdata::kDefinedHeight))
+    return height->begin - 1;
   if (!record.xdata(u"ACAD")) record.insert_string(record.size(), 1001, u"ACAD");
   return record.xdata(u"ACAD")->end;
 }
@@ -59,9 +62,9 @@ std::size_t endOfApplicationData(dxf::Record& record) {
 void OdDbMTextXdata::write(dxf::Record& record, Name name, const std::vector<Value>& values) {
   auto block = find(record, name);
   if (!block) {
-    const std::size_t end = endOfApplicationData(record);
-    record.insert_string(end, 1000, name.begin);
-    record.insert_string(end + 1, 1000, name.end);
+    const std::size_t place = placeOfNewBlock(record);
+    record.insert_string(place, 1000, name.begin);
+    record.insert_string(place + 1, 1000, name.end);
     block = find(record, name);
   }
   record.erase(*block);

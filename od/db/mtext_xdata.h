@@ -5,6 +5,7 @@
 #include <variant>
 #include <vector>
 
+#include "od/db/OdDbHandle.h"
 #include "od/dxf/record.h"
 
 /// What multi-line texts of older drawings say in their extended data: named blocks of values, each value
@@ -26,7 +27,8 @@ struct OdDbMTextXdata {
   /// A value behind its code; `code` 0 stands for a value without one.
   struct Value {
     int code;
-    std::variant<int, double, std::int64_t, std::u16string> value;  ///< 1070, 1040, 1071, 1000
+    /// 1070, 1040, 1071, 1000, 1005
+    std::variant<int, double, std::int64_t, std::u16string, OdDbHandle> value;
   };
 
   /// The groups between the names; nothing where the record has no such block.
@@ -35,7 +37,8 @@ struct OdDbMTextXdata {
   static std::optional<std::size_t> valueOf(const dxf::Record& record, dxf::Range block, int code);
   static double real(const dxf::Record& record, Name name, int code, double fallback);
   static std::int64_t integer(const dxf::Record& record, Name name, int code, std::int64_t fallback);
-  /// Writes the block anew where it stands, or at the end of the application's data.
+  /// Writes the block anew where it stands. A new one stands at the end of the application's data; that of a
+  /// defined height stays behind it.
   static void write(dxf::Record& record, Name name, const std::vector<Value>& values);
   /// Takes the block out with its names.
   static void remove(dxf::Record& record, Name name);

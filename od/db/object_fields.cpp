@@ -60,12 +60,15 @@ OdDbDictionaryPtr OdDbObject::needFieldDictionary() {
   return odOpen<OdDbDictionary>(fields, OdDb::kForWrite);
 }
 
+/// Those of the object and of its parts.
 void OdDbObject::eraseFields(bool erasing) {
+  OdDbDrawing& drawing = m_database->drawing();
+  for (OdDbStub* part : m_stub->parts)
+    if (part->record->application_group(kExtensionGroup)) drawing.object(*part).eraseFields(erasing);
   const OdDbDictionaryPtr fields = fieldDictionary(OdDb::kForRead);
   if (!fields) return;
   for (const auto& [name, id] : fields->entries())
-    if (id && id.stub()->record && id.stub()->record->is("FIELD"))
-      odEraseField(m_database->drawing(), *id.stub(), erasing);
+    if (id && id.stub()->record && id.stub()->record->is("FIELD")) odEraseField(drawing, *id.stub(), erasing);
 }
 
 OdRxObjectPtr OdDbObject::getField(const OdString& name, OdDb::OpenMode mode) const {

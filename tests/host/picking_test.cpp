@@ -24,6 +24,7 @@ class FixedBox : public OdDbMTextLayout {
   OdDbMTextMeasure measure(const OdDbMText&) override {
     return {.width = 40, .height = 10, .minimum = {0, -10}, .maximum = {40, 0}};
   }
+  std::vector<OdString> columnContents(const OdDbMText&) override { return {}; }
   void draw(const OdDbMText&, OdGiWorldDraw&) override {}
 };
 

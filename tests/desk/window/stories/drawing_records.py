@@ -20,6 +20,11 @@ def changed(before, after):
     return [(a, b) for a, b in zip(old, new) if a != b]
 
 
+def contents(path):
+    """The contents of all multi-line texts of a drawing, one after the other: the columns of a text are some of their own."""
+    return b"".join(text_of(record) for record in records(path) if record[0] == (b"0", b"MTEXT")).decode("utf-8")
+
+
 def text_of(record):
     """The contents of a multi-line text."""
     return b"".join(value for code, value in record if code in (b"1", b"3"))

@@ -9,7 +9,7 @@ from desk import Desk
 class EmptySheet:
     """What lies on a sheet that nobody has written on."""
 
-    def groups(self):
+    def groups(self, version):
         return []
 
 
