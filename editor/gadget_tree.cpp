@@ -41,7 +41,9 @@ void gadget_tree::draw(OdGiViewportDraw& draw) const {
 }
 
 OdGeExtents3d gadget_tree::reach(double units_per_pixel) const {
+  const double shown_at = m_root->scale;
   fit(units_per_pixel);
   const micui::extents box = m_root->parent_extents();
+  fit(shown_at);
   return OdGeExtents3d({box.min_x, box.min_y, 0}, {box.max_x, box.max_y, 0});
 }

@@ -22,8 +22,8 @@ class gadget_tree {
   void fit(double units_per_pixel) const;
   /// Draws the gadgets as they now have to be, in the text's plane; nothing while not open.
   void draw(OdGiViewportDraw& draw) const;
-  /// Box of the text and all gadgets in text coordinates, laid out for pixels of this length. Only while
-  /// open.
+  /// Box of the text and all gadgets in text coordinates, as they would be for pixels of this length. Only
+  /// while open.
   OdGeExtents3d reach(double units_per_pixel) const;
 
  private:

@@ -5,10 +5,10 @@
 
 namespace {
 
-constexpr const char16_t* kFieldKey = u"TEXT";
-
 /// What the entity holds now; null for one whose text was edited without its field.
-OdDbFieldPtr field_of(const OdDbEntity& target) { return odCast<OdDbField>(target.getField(kFieldKey)); }
+OdDbFieldPtr field_of(const OdDbEntity& target) {
+  return odCast<OdDbField>(target.getField(OdDbField::kTextKey));
+}
 
 bool same_columns(const mtext::column_settings& a, const mtext::column_settings& b) {
   return a.width == b.width && a.gutter == b.gutter && a.kind == b.kind && a.heights == b.heights;
@@ -51,20 +51,20 @@ void smart_edit::writeColumns(OdDbMText& target) {
 
 void smart_edit::writeContents(OdDbMText& target) {
   if (const OdDbFieldPtr top = m_editable->fieldText(field_of(target).get())) {
-    target.setField(kFieldKey, *top);
+    target.setField(OdDbField::kTextKey, *top);
     if (!target.isDBRO()) m_written_field = top;
   } else {
     target.setContents(m_editable->contentsText());
-    target.removeField(kFieldKey);
+    target.removeField(OdDbField::kTextKey);
   }
 }
 
 void smart_edit::writeLine(OdDbText& target, std::size_t index) {
   if (const OdDbFieldPtr top = m_editable->lineField(index, field_of(target).get())) {
-    target.setField(kFieldKey, *top);
+    target.setField(OdDbField::kTextKey, *top);
   } else {
     target.setTextString(m_editable->lineText(index));
-    target.removeField(kFieldKey);
+    target.removeField(OdDbField::kTextKey);
   }
 }
 
@@ -92,7 +92,7 @@ void smart_edit::write(OdDbText& target) {
     writeLine(target, 0);
   } else {
     target.setTextString({});
-    target.removeField(kFieldKey);
+    target.removeField(OdDbField::kTextKey);
   }
   if (!target.isDefaultAlignment()) target.adjustAlignment();
 }

@@ -54,7 +54,7 @@ void smart_edit::writeLines(const OdDbText& source, std::size_t count) {
     line->setTextString(field ? field->getFieldCode(OdDbField::kEvaluatedText) : OdString(letters));
     place(*line, source, at, m_editable->frame().up());
     m_written_lines.push_back(space->appendOdDbEntity(line.get()));
-    if (field) line->setField(u"TEXT", *field);
+    if (field) line->setField(OdDbField::kTextKey, *field);
     hostEntUpd(m_written_lines.back());
   }
 }

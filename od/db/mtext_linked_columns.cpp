@@ -12,19 +12,15 @@
 
 namespace {
 
-constexpr const char16_t* kTextField = u"TEXT";
-
 /// The code of a container with the numbers of its children counted on from `offset`.
 std::u16string countedFrom(std::uint64_t offset, const OdDbField& container) {
   const OdString code = container.getFieldCode(OdDbField::kFieldCode);
   std::u16string counted;
-  std::size_t done = 0;
-  while (const auto found = odFindReference(code.str(), u"\\_FldIdx", done)) {
-    counted.append(code.str(), done, found->begin - done);
-    counted += odFieldReference(u"\\_FldIdx", found->number + offset);
-    done = found->end;
+  for (const auto& [letters, reference] : odSplitAtReferences(code.str(), kOdChildReference)) {
+    counted += letters;
+    if (reference) counted += odFieldReference(kOdChildReference, reference->number + offset);
   }
-  return counted.append(code.str(), done);
+  return counted;
 }
 
 /// One container of those that columns have; a column without one is its text.
@@ -75,7 +71,7 @@ std::vector<OdString> OdDbMText::contentsByEntity() const {
 void OdDbMText::emptyLinkedColumns() {
   if (!isDBRO()) return odSetLinkedHandles(record(), {});
   for (const OdDbMTextPtr& column : openLinkedColumns(OdDb::kForWrite)) {
-    column->removeField(kTextField);
+    column->removeField(OdDbField::kTextKey);
     column->setOwnContents({});
   }
 }

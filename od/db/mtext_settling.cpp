@@ -36,10 +36,10 @@ std::vector<OdString> OdDbMText::laidOutColumns() const {
 
 void OdDbMText::putAllIntoFirst() {
   const OdString whole = contents();
-  const OdDbFieldPtr field = odCast<OdDbField>(getField(u"TEXT"));
+  const OdDbFieldPtr field = odCast<OdDbField>(getField(OdDbField::kTextKey));
   emptyLinkedColumns();
   setOwnContents(whole);
-  if (field) setField(u"TEXT", *field);
+  if (field) setField(OdDbField::kTextKey, *field);
 }
 
 /// Makes the whole text this one entity.
