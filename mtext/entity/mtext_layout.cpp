@@ -1,6 +1,8 @@
 #include "mtext/entity/mtext_layout.h"
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 
 #include "mtext/decode.h"
 #include "mtext/entity/decode_entity.h"
@@ -28,18 +30,19 @@ OdGeVector2d origin_offset(const geom_multitext& text) {
           (box.y - last_line_leading(text)) * 0.5 * text.info.vertical};
 }
 
-/// The column that reaches furthest down from its top; null in a text without any.
-const geom_column* highest_column(const geom_multitext& text) {
-  const auto found = std::max_element(text.columns.begin(), text.columns.end(),
-                                      [](const auto& a, const auto& b) { return a.height < b.height; });
-  return found == text.columns.end() ? nullptr : &*found;
-}
-
 /// The last line of a column, the empty one behind a closing line end included; null where there is none.
 const geom_line* last_line_of(const geom_multitext& text, const geom_column& column) {
-  const auto behind = std::find_if(text.lines.rbegin(), text.lines.rend(),
-                                   [&](const geom_line& line) { return line.last <= column.last; });
-  return behind == text.lines.rend() ? nullptr : &*behind;
+  const auto behind = std::partition_point(text.lines.begin(), text.lines.end(),
+                                           [&](const geom_line& line) { return line.last <= column.last; });
+  return behind == text.lines.begin() ? nullptr : &behind[-1];
+}
+
+/// From the top of a column to its last baseline, for the column that reaches furthest down so.
+double greatest_depth(const geom_multitext& text) {
+  double depth = 0;
+  for (const geom_column& column : text.columns)
+    if (const geom_line* line = last_line_of(text, column)) depth = std::max(depth, column.y - line->y);
+  return depth;
 }
 
 /// The right end of a line's letters; its break does not count.
@@ -76,9 +79,11 @@ OdGeExtents3d line_extents(const geom_multitext& text) {
 }
 
 double last_line_leading(const geom_multitext& text) {
-  const geom_column* column = highest_column(text);
-  const geom_line* line = column ? last_line_of(text, *column) : nullptr;
-  return line ? line->y - (column->y - column->height) : 0;
+  double least = std::numeric_limits<double>::infinity();
+  for (const geom_column& column : text.columns)
+    if (const geom_line* line = last_line_of(text, column))
+      least = std::min(least, line->y - (column.y - column.height));
+  return std::isfinite(least) ? least : 0;
 }
 
 std::shared_ptr<const geom_multitext> mtext_layout::laid_out(const OdDbMText& text) const {
@@ -97,8 +102,7 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
   const OdGeExtents3d box = line_extents(laid);
   const OdGePoint2d low{box.minPoint().x, box.minPoint().y}, high{box.maxPoint().x, box.maxPoint().y};
   const OdGeVector2d offset = origin_offset(laid);
-  const double height = highest_column(laid)->height - last_line_leading(laid);
-  return {high.x - low.x, height, low + offset, high + offset};
+  return {high.x - low.x, greatest_depth(laid), low + offset, high + offset};
 }
 
 std::vector<OdString> mtext_layout::columnContents(const OdDbMText& text) {

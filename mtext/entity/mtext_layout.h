@@ -28,7 +28,7 @@ OdGeVector2d column_box(const geom_multitext& text);
 /// of the lowest. Line ends have a width for the eye's sake alone and do not count. Without lines not valid.
 OdGeExtents3d line_extents(const geom_multitext& text);
 
-/// How far the highest column of a laid-out text reaches below its last baseline, in drawing units. A column
+/// How far a column of a laid-out text reaches below its last baseline at least, in drawing units. A column
 /// ends a whole line pitch below its last line's top, but a text is attached by its letters: a bottom
 /// attachment point lies on the last baseline, a middle one halfway between it and the first line's top.
 double last_line_leading(const geom_multitext& text);

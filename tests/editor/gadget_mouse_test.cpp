@@ -87,6 +87,27 @@ TEST(GadgetMouse, a_drag_leaves_the_insertion_point_of_a_centred_text_where_it_i
   EXPECT_EQ(hand.session->editable().frame().location, (OdGePoint3d{10, 20, 0}));
 }
 
+TEST(GadgetMouse, no_height_of_the_columns_makes_a_centred_box_jump) {
+  mouse_at_work hand;
+  hand.text->setContents(
+      u"Hall and stairs up to the roof and down to the cellar with a landing at every floor");
+  hand.text->setColumnType(OdDb::kStaticColumns);
+  hand.text->setColumnCount(2);
+  hand.text->setColumnWidth(20);
+  hand.text->setColumnGutterWidth(4);
+  hand.text->setHeight(10);
+  hand.text->setAttachment(OdDb::kMiddleLeft);
+  hand.begin();
+  ExMTextEditable& text = hand.session->editable();
+  mtext::column_settings columns = hand.columns();
+  for (double height = 10; height < 50; ++height) {
+    columns.heights.assign(columns.heights.size(), height);
+    text.setColumns(columns);
+    text.endOfEdit(/*relayout=*/true);
+    EXPECT_NEAR(text.origin().y - height / 2, 20, 1) << height << ": at most half the leading of a line";
+  }
+}
+
 TEST(GadgetMouse, a_press_in_the_strip_adds_a_stop_and_a_drag_off_the_ruler_removes_it) {
   mouse_at_work hand;
   hand.begin();
