@@ -144,6 +144,18 @@ dxf::Record& OdDbDrawing::endOfEntities() {
 }
 
 OdDbObjectId OdDbDrawing::append(OdDbBlockTableRecord& block, OdDbEntity& entity) {
+  OdDbStub& stub = addToFile(block, entity);
+  addEntity(*block.m_stub, stub);
+  return OdDbObjectId(&stub);
+}
+
+void OdDbDrawing::appendPart(OdDbStub& host, OdDbEntity& part) {
+  OdDbStub& stub = addToFile(blockObject(*host.owner), part);
+  stub.owner = &host;
+  host.parts.push_back(&stub);
+}
+
+OdDbStub& OdDbDrawing::addToFile(OdDbBlockTableRecord& block, OdDbEntity& entity) {
   const bool inEntities = &block == &blockObject(*m_modelSpace) || &block == &blockObject(*m_paperSpace);
   dxf::Record& place = inEntities || !block.m_end ? endOfEntities() : *block.m_end;
   dxf::Record& record = m_file.insert_before(&place, entity.record().type());
@@ -154,18 +166,8 @@ OdDbObjectId OdDbDrawing::append(OdDbBlockTableRecord& block, OdDbEntity& entity
     record.set_owner(block.handle().value());
   }
   OdDbStub& stub = addStub(&record, block.m_stub, OdDbStub::kEntity);
-  addEntity(*block.m_stub, stub);
   adopt(entity, stub);
-  return OdDbObjectId(&stub);
-}
-
-OdDbObjectId OdDbDrawing::appendPart(OdDbStub& host, OdDbEntity& part) {
-  OdDbStub& block = *host.owner;
-  const OdDbObjectId id = append(blockObject(block), part);
-  id.stub()->owner = &host;
-  host.parts.push_back(id.stub());
-  dropParts(block);
-  return id;
+  return stub;
 }
 
 dxf::Record& OdDbDrawing::endOfObjects() {

@@ -32,8 +32,8 @@ class OdDbDrawing {
   /// True when new objects of this file are written with a handle.
   bool writesHandles() const { return m_writesHandles; }
   OdDbObjectId append(OdDbBlockTableRecord& block, OdDbEntity& entity);
-  /// The same in the block where `host` lies, as a part of it.
-  OdDbObjectId appendPart(OdDbStub& host, OdDbEntity& part);
+  /// Writes it into the block where `host` lies, as a part of it that the block does not list.
+  void appendPart(OdDbStub& host, OdDbEntity& part);
   /// Whether a new object names its owner as one that is told of changes, too.
   enum OwnerReaction { kOwnerKeepsQuiet, kOwnerReacts };
   /// A new record at the end of the section OBJECTS, with handle and owner and nothing else.
@@ -61,6 +61,8 @@ class OdDbDrawing {
   void setSpaces(OdDbStub& model, OdDbStub& paper);
 
  private:
+  /// The entity with a record at the end of the block, and in the drawing.
+  OdDbStub& addToFile(OdDbBlockTableRecord& block, OdDbEntity& entity);
   void settleObjects();
   void countHandles();
   OdDbHandle takeHandle();

@@ -135,6 +135,8 @@ class OdDbMText : public OdDbEntity {
   dxf::Record* trueContents() const;
 
   // ---- mtext_linked_columns.cpp
+  /// True in the drawing for the entity of a column behind the first.
+  bool isLinkedColumn() const;
   std::vector<OdSmartPtr<OdDbMText>> openLinkedColumns(OdDb::OpenMode mode) const;
   void emptyLinkedColumns();
 

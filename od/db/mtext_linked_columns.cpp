@@ -40,6 +40,11 @@ OdDbFieldPtr joinedField(const std::vector<OdDbFieldPtr>& fields, const std::vec
 
 }  // namespace
 
+bool OdDbMText::isLinkedColumn() const {
+  const OdDbStub* owner = objectId().stub()->owner;
+  return owner && owner->record && owner->record->is("MTEXT");
+}
+
 std::vector<OdDbObjectId> OdDbMText::linkedColumns() const {
   assertReadEnabled();
   const OdDbStub* first = objectId().stub();
@@ -56,7 +61,7 @@ std::vector<OdDbObjectId> OdDbMText::linkedColumns() const {
 std::vector<OdDbMTextPtr> OdDbMText::openLinkedColumns(OdDb::OpenMode mode) const {
   std::vector<OdDbMTextPtr> columns;
   for (const OdDbObjectId& id : linkedColumns())
-    columns.push_back(odCastOrThrow<OdDbMText>(id.openObject(mode)));
+    columns.push_back(odCastOrThrow<OdDbMText>(id.openObject(mode, /*openErased=*/true)));
   return columns;
 }
 

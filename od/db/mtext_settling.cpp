@@ -20,8 +20,8 @@ constexpr int kMostNewColumns = 100;
 
 /// True when the columns behind the first are entities of their own in this drawing.
 bool OdDbMText::linksColumns() const {
-  return isDBRO() && objectId().stub()->handleInFile && record().manner().version < dxf::R2018 &&
-         !record().embedded_object() && columns().type != 0;
+  return isDBRO() && !isLinkedColumn() && objectId().stub()->handleInFile &&
+         record().manner().version < dxf::R2018 && !record().embedded_object() && columns().type != 0;
 }
 
 /// What stands in each column; empty when nobody lays the text out or can tell.

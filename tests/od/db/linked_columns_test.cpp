@@ -284,3 +284,19 @@ TEST(LinkedColumns, saving_twice_writes_the_same_bytes) {
   const std::string once = sample.database->writeBytes();
   EXPECT_EQ(sample.database->writeBytes(), once);
 }
+
+TEST(LinkedColumns, an_erased_text_still_tells_what_it_said) {
+  const Sample sample(threeColumns());
+  const OdDbMTextPtr text = sample.text();
+  text->erase();
+  EXPECT_EQ(text->contents(), OdString(u"one\\Ntwo\\Nthree"));
+}
+
+TEST(LinkedColumns, a_column_that_tells_of_columns_itself_gets_none_of_its_own) {
+  const Sample sample = laidOut(drawing(text("20", "1 one\\N " + columnInfo(1, 0, 2) + linked("1005 21")) +
+                                        text("21", "1 two " + columnInfo(1, 0, 2))));
+  sample.text()->setContents(u"a\\Nb");
+  const Sample saved(sample.database->writeBytes());
+  EXPECT_EQ(saved.entities().size(), 1U);
+  EXPECT_EQ(saved.text()->contentsByEntity(), (Texts{u"a\\N", u"b"}));
+}
