@@ -19,16 +19,11 @@ struct TextBox {
 };
 
 TextBox box_of(const OdDbMText& text) {
-  const double width = text.actualWidth();
-  const double height = text.actualHeight();
-  const int place = text.attachment() - OdDb::kTopLeft;
-  const int column = place % 3;
-  const int row = place / 3;
-  const double left = -width * column / 2;
-  const double top = height * row / 2;
+  const OdDbMTextMeasure size = text.measured();
   const OdGeMatrix3d to_world = text.textToWorld();
-  return {to_world * OdGePoint3d{left, top, 0}, to_world * OdGePoint3d{left + width, top, 0},
-          to_world * OdGePoint3d{left, top - height, 0}};
+  const auto corner = [&](double x, double y) { return to_world * OdGePoint3d{x, y, 0}; };
+  return {corner(size.minimum.x, size.maximum.y), corner(size.maximum.x, size.maximum.y),
+          corner(size.minimum.x, size.minimum.y)};
 }
 
 TextBox box_of(const OdDbText& text) {

@@ -105,6 +105,8 @@ class OdDbMText : public OdDbEntity {
   /// the frame.
   double actualWidth() const;
   double actualHeight() const;
+  /// The same with the box around its lines.
+  OdDbMTextMeasure measured() const;
 
   /// From text coordinates to the world.
   OdGeMatrix3d textToWorld() const;
@@ -123,7 +125,6 @@ class OdDbMText : public OdDbEntity {
   std::unique_ptr<dxf::Record> newRecord() const override;
 
  private:
-  OdDbMTextMeasure measured() const;
   OdDbMTextColumns columns() const;
   void setColumns(const OdDbMTextColumns& columns);
   /// For changing what the columns of a text have in common.

@@ -122,7 +122,7 @@ void OdDbMText::writeLaidOutSize() {
   const OdDbMTextColumns columns = this->columns();
   OdDbMTextMeasure size;
   try {
-    size = database()->textLayout()->measure(*this);
+    size = measured();
   } catch (const std::exception&) {
     return;
   }

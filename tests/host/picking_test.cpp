@@ -18,11 +18,13 @@ namespace {
 
 constexpr double kAperture = 0.5;
 
-/// Lays every text out as a box of 40 by 10 drawing units.
+/// Lays every text out as a box of 40 by 10 drawing units; a centred one begins left of its point, and the
+/// last line's letters reach below its baseline.
 class FixedBox : public OdDbMTextLayout {
  public:
-  OdDbMTextMeasure measure(const OdDbMText&) override {
-    return {.width = 40, .height = 10, .minimum = {0, -10}, .maximum = {40, 0}};
+  OdDbMTextMeasure measure(const OdDbMText& text) override {
+    const double left = text.attachment() == OdDb::kTopCenter ? -30 : 0;
+    return {.width = 40, .height = 10, .minimum = {left, -12}, .maximum = {left + 40, 0}};
   }
   std::vector<OdString> columnContents(const OdDbMText&) override { return {}; }
   void draw(const OdDbMText&, OdGiWorldDraw&) override {}
@@ -74,9 +76,21 @@ TEST_F(Picking, a_circle_is_hit_at_its_rim_and_not_inside) {
 TEST_F(Picking, a_text_is_hit_anywhere_in_its_box) {
   const OdDbObjectId id = text({100, 100, 0});
   EXPECT_EQ(at(120, 95), id);
-  EXPECT_EQ(at(140.4, 89.6), id);
+  EXPECT_EQ(at(140.4, 87.6), id);
   EXPECT_TRUE(at(120, 101).isNull());
   EXPECT_TRUE(at(141, 95).isNull());
+}
+
+TEST_F(Picking, a_text_is_hit_where_its_lines_stand_whatever_its_attachment) {
+  const OdDbObjectId id = text({100, 100, 0});
+  odCast<OdDbMText>(id.openObject(OdDb::kForWrite))->setAttachment(OdDb::kTopCenter);
+  EXPECT_EQ(at(71, 95), id);
+  EXPECT_TRUE(at(111, 95).isNull());
+}
+
+TEST_F(Picking, the_letters_below_the_last_baseline_are_hit) {
+  const OdDbObjectId id = text({100, 100, 0});
+  EXPECT_EQ(at(120, 88.5), id);
 }
 
 TEST_F(Picking, the_box_of_a_text_turns_with_it) {
