@@ -10,8 +10,9 @@
 
 namespace {
 
+/// Its first letter answers, with Alt or without.
 void addButton(QMessageBox& box, QMessageBox::StandardButton which, const std::u16string& text) {
-  box.addButton(which)->setText(toQt(text));
+  box.addButton(which)->setText(toQt(u"&" + text));
 }
 
 void makeQuestion(QMessageBox& box) {
