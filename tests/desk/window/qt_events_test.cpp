@@ -19,8 +19,9 @@ HostBoxAnswer answerTo(int key, Qt::KeyboardModifiers modifiers = {}) {
   QtEvents events(window, help);
   QTimer timer;
   QObject::connect(&timer, &QTimer::timeout, [&] {
-    QWidget* box = QApplication::activeModalWidget();
+    QWidget* const box = QApplication::activeModalWidget();
     if (!box) return;
+    timer.stop();
     QKeyEvent press(QEvent::KeyPress, key, modifiers);
     QApplication::sendEvent(box, &press);
   });
