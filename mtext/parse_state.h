@@ -1,9 +1,9 @@
 #pragma once
 
-#include "mtext/field_markers.h"
 #include "mtext/format_stack.h"
 #include "mtext/multitext.h"
 #include "mtext/text_cursor.h"
+#include "od/field/nested_markers.h"
 
 namespace mtext::reading {
 
@@ -13,7 +13,7 @@ struct parse_state {
   text_cursor cursor;
   multitext& target;
   format_stack formats;
-  field_markers markers;
+  OdNestedMarkers markers;
   /// A `\px` has been met; never reset, and no group scopes it.
   bool px_seen = false;
   /// The record that `\p` codes write: that of the paragraph read last.

@@ -25,8 +25,8 @@ TEST(ColumnJoin, braces_that_are_left_open_are_closed) {
   EXPECT_EQ(odJoinColumns({u"{\\C1;{\\L", u"x"}), u"{\\C1;{\\L}}x");
 }
 
-TEST(ColumnJoin, a_brace_that_closes_nothing_is_not_given_something_to_close) {
-  EXPECT_EQ(odJoinColumns({u"\\C1;a}b", u"x"}), u"\\C1;a}bx");
+TEST(ColumnJoin, a_brace_that_closes_nothing_is_left_out) {
+  EXPECT_EQ(odJoinColumns({u"\\C1;a}b", u"x"}), u"{\\C1;a{}b}x");
 }
 
 TEST(ColumnJoin, braces_that_are_letters_open_nothing) {
@@ -36,9 +36,9 @@ TEST(ColumnJoin, braces_that_are_letters_open_nothing) {
 
 TEST(ColumnJoin, a_paragraph_behind_an_indented_one_begins_as_it_would_alone) {
   EXPECT_EQ(odJoinColumns({u"\\pxi2;first\\P", u"second"}),
-            u"\\pxi2;first\\P\\pxi0,l0,r0,b0,a0,q*,s*,tz;second");
+            u"\\pxi2;first\\P\\pi0,l0,r0,b0,a0,q*,s*,tz;second");
   EXPECT_EQ(odJoinColumns({u"\\pxi2;first\\P", u"second\\P", u"third"}),
-            u"\\pxi2;first\\P\\pxi0,l0,r0,b0,a0,q*,s*,tz;second\\P\\pxi0,l0,r0,b0,a0,q*,s*,tz;third");
+            u"\\pxi2;first\\P\\pi0,l0,r0,b0,a0,q*,s*,tz;second\\P\\pi0,l0,r0,b0,a0,q*,s*,tz;third");
 }
 
 TEST(ColumnJoin, a_paragraph_that_goes_on_in_the_next_column_keeps_its_indents) {
@@ -46,10 +46,49 @@ TEST(ColumnJoin, a_paragraph_that_goes_on_in_the_next_column_keeps_its_indents) 
 }
 
 TEST(ColumnJoin, a_format_behind_the_last_break_does_not_hide_the_break) {
-  EXPECT_EQ(odJoinColumns({u"\\pxl1;{\\C1;a\\P}", u"b"}), u"\\pxl1;{\\C1;a\\P}\\pxi0,l0,r0,b0,a0,q*,s*,tz;b");
+  EXPECT_EQ(odJoinColumns({u"\\pxl1;{\\C1;a\\P}", u"b"}), u"\\pxl1;{\\C1;a\\P}\\pi0,l0,r0,b0,a0,q*,s*,tz;b");
 }
 
 TEST(ColumnJoin, a_code_that_a_text_breaks_off_does_not_take_letters_of_the_next) {
   EXPECT_EQ(odJoinColumns({u"a\\", u"Pen"}), u"a\\\\Pen");
   EXPECT_EQ(odJoinColumns({u"a\\fArial", u"b; c"}), u"{a\\fArial;}b; c");
+}
+
+TEST(ColumnJoin, a_code_ends_where_readers_end_it_and_not_at_the_next_semicolon) {
+  EXPECT_EQ(odJoinColumns({u"\\C1red", u"x; y"}), u"{\\C1red}x; y");
+  EXPECT_EQ(odJoinColumns({u"\\H2x{tall\\P", u";b"}), u"{\\H2x{tall\\P}};b");
+  EXPECT_EQ(odJoinColumns({u"\\S1\\;2;{", u"x"}), u"\\S1\\;2;{}x");
+  EXPECT_EQ(odJoinColumns({u"\\pq;i2;a", u"x"}), u"\\pq;i2;ax");
+}
+
+TEST(ColumnJoin, codes_in_a_field_are_not_those_of_the_text) {
+  EXPECT_EQ(odJoinColumns({u"%<\\AcVar Date \\f \"{M\">%", u"x"}), u"%<\\AcVar Date \\f \"{M\">%x");
+}
+
+TEST(ColumnJoin, letters_do_not_become_a_code_by_those_of_the_next_text) {
+  EXPECT_EQ(odJoinColumns({u"5%", u"%d"}), u"5%{}%d");
+  EXPECT_EQ(odJoinColumns({u"a %<b", u"c>%"}), u"a %{}<bc>%");
+  EXPECT_EQ(odJoinColumns({u"\\C", u"5"}), u"\\\\C5");
+  EXPECT_EQ(odJoinColumns({u"\\f", u"arm;"}), u"\\\\farm;");
+  EXPECT_EQ(odJoinColumns({u"\\S1/\\", u"x;"}), u"\\S1/\\\\;x;");
+}
+
+TEST(ColumnJoin, a_broken_number_of_a_character_hides_nothing_behind_it) {
+  EXPECT_EQ(odJoinColumns({u"a\\U+12", u"34"}), u"a\\\\U+1234");
+}
+
+TEST(ColumnJoin, a_paragraph_code_that_ends_early_says_what_it_said) {
+  EXPECT_EQ(odJoinColumns({u"a\\pi1,q", u"x;y"}), u"\\pi1,;a{}x;y");
+  EXPECT_EQ(odJoinColumns({u"a\\pi1,t2,D", u"x;y"}), u"\\pi1,t2;a{}x;y");
+}
+
+TEST(ColumnJoin, a_text_without_anything_visible_leaves_the_paragraph_end_before_it) {
+  EXPECT_EQ(odJoinColumns({u"\\pi1;a\\P", u"{}", u"b"}),
+            u"\\pi1;a\\P\\pi0,l0,r0,b0,a0,q*,s*,tz;{}\\pi0,l0,r0,b0,a0,q*,s*,tz;b");
+}
+
+TEST(ColumnJoin, a_paragraph_that_goes_on_looks_as_it_began_and_those_behind_it_as_they_would_alone) {
+  EXPECT_EQ(odJoinColumns({u"\\pi1,l2;a ", u"b\\Pc"}), u"\\pi1,l2;a b\\P\\pi0,l0,r0,b0,a0,q*,s*,tz;c");
+  EXPECT_EQ(odJoinColumns({u"\\pi1,l2;a ", u"\\pi0,l2;b\\Pc"}),
+            u"\\pi1,l2;a b\\P\\pi0,l0,r0,b0,a0,q*,s*,tz;\\pi0,l2;c");
 }
