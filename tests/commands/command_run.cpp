@@ -1,7 +1,5 @@
 #include "tests/commands/command_run.h"
 
-#include "commands/mtext_create.h"
-#include "commands/mtext_edit.h"
 #include "mtext/entity/mtext_layout.h"
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbLayerTableRecord.h"
@@ -64,10 +62,6 @@ void command_run::key(unsigned code, const HostHeldKeys::Keys& held) {
   application.input().message({.number = WM_KEYDOWN, .code = code, .shift = held.shift, .ctrl = held.ctrl});
   application.input().message({.number = WM_KEYUP, .code = code});
 }
-
-int command_run::create() { return run<CMTCreateCmd>(); }
-
-int command_run::edit() { return run<CMTextEditCmd>(); }
 
 std::vector<OdDbObjectId> command_run::entities() const {
   return odCast<OdDbBlockTableRecord>(database->getModelSpaceId().openObject())->entities();

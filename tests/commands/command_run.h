@@ -28,8 +28,6 @@ struct command_run {
     const int status = command->run();
     return status == command->status() ? status : -1;
   }
-  int create();
-  int edit();
 
   /// The last line of the command line.
   std::u16string said() { return application.log().lines().empty() ? u"" : application.log().lines().back(); }

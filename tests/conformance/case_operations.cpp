@@ -1,4 +1,4 @@
-#include "commands/case_of_contents.h"
+#include "commands/letter_case/case_of_contents.h"
 #include "desk/text_json/text_json.h"
 #include "tests/conformance/operations.h"
 #include "tests/mtext/stub_finder.h"

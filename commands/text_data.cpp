@@ -1,6 +1,0 @@
-#include "commands/text_data.h"
-
-HostApDataManager<TextData>& text_data() {
-  static HostApDataManager<TextData> data;
-  return data;
-}

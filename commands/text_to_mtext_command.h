@@ -1,9 +1,0 @@
-#pragma once
-
-#include "commands/document_command.h"
-
-/// The command Text2MText: one multi-line text takes the place of the selected single-line texts.
-class CText2MTextCmd : public CDocumentCommand {
- protected:
-  int runIn(HostDocument& document) override;
-};

@@ -1,9 +1,0 @@
-#pragma once
-
-#include "commands/document_command.h"
-
-/// The command TJust: gives the selected texts another justification and leaves them where they stand.
-class CJust : public CDocumentCommand {
- protected:
-  int runIn(HostDocument& document) override;
-};
