@@ -129,7 +129,13 @@ void OdDbDrawing::setSpaces(OdDbStub& model, OdDbStub& paper) {
   m_paperSpace = &paper;
 }
 
+/// Sections are found by a walk through the whole file, and many entities may be appended.
 dxf::Record& OdDbDrawing::endOfEntities() {
+  if (!m_endOfEntities) m_endOfEntities = &findEndOfEntities();
+  return *m_endOfEntities;
+}
+
+dxf::Record& OdDbDrawing::findEndOfEntities() {
   dxf::Record* end = nullptr;
   for (const dxf::Section& section : m_file.sections()) {
     if (section.name == "ENTITIES" && section.end) end = section.end;

@@ -69,6 +69,7 @@ class OdDbDrawing {
   OdDbHandle takeInternalNumber();
   void attach(OdDbStub& stub, OdDbObjectPtr made);
   dxf::Record& endOfEntities();
+  dxf::Record& findEndOfEntities();
   dxf::Record& endOfObjects();
   void adopt(OdDbEntity& entity, OdDbStub& stub);
 
@@ -77,6 +78,7 @@ class OdDbDrawing {
   std::deque<OdDbStub> m_stubs;
   std::unordered_map<OdDbHandle, OdDbStub*> m_byHandle;
   std::array<OdDbStub*, kTableCount> m_tables{};
+  dxf::Record* m_endOfEntities = nullptr;  ///< null until an entity is appended
   OdDbStub* m_modelSpace = nullptr;
   OdDbStub* m_paperSpace = nullptr;
   std::uint64_t m_nextHandle = 1;

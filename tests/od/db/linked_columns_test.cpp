@@ -1,5 +1,8 @@
 #include <gtest/gtest.h>
 
+#include <chrono>
+#include <sstream>
+
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbDictionary.h"
@@ -299,4 +302,32 @@ TEST(LinkedColumns, a_column_that_tells_of_columns_itself_gets_none_of_its_own) 
   const Sample saved(sample.database->writeBytes());
   EXPECT_EQ(saved.entities().size(), 1U);
   EXPECT_EQ(saved.text()->contentsByEntity(), (Texts{u"a\\N", u"b"}));
+}
+
+namespace {
+
+/// How long a drawing takes to be saved in which `count` texts have got a second column.
+std::chrono::duration<double> timeToSave(int count) {
+  std::string texts;
+  for (int i = 0; i < count; ++i) {
+    std::ostringstream handle;
+    handle << std::hex << 0x1000 + i;
+    texts += text(handle.str(), "1 one\\Ntwo " + columnInfo(1, 0, 2));
+  }
+  const Sample sample = laidOut(drawing(texts));
+  const std::vector<OdDbObjectId> all = sample.entities();
+  for (const OdDbObjectId& id : all) odOpen<OdDbMText>(id, OdDb::kForWrite)->setContents(u"a\\Nb");
+  const auto begin = std::chrono::steady_clock::now();
+  const std::string saved = sample.database->writeBytes();
+  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
+  const Sample again(saved);
+  EXPECT_EQ(again.entities().size(), all.size());
+  EXPECT_EQ(again.text(all.size() - 1)->contentsByEntity(), (Texts{u"a\\N", u"b"}));
+  return taken;
+}
+
+}  // namespace
+
+TEST(LinkedColumns, many_texts_that_need_more_of_them_do_not_cost_the_square_of_their_number) {
+  EXPECT_LT(timeToSave(8000) / timeToSave(1000), 24);  // 64 where each costs a walk through the file
 }
