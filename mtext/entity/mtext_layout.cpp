@@ -9,11 +9,11 @@
 #include "mtext/entity/draw_parts.h"
 #include "mtext/entity/entity_format.h"
 #include "mtext/entity/mtext_size_finder.h"
-#include "mtext/flatten.h"
 #include "mtext/parse.h"
 #include "mtext/serialize.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbMText.h"
+#include "od/db/column_join.h"
 #include "od/gi/OdGiContext.h"
 #include "od/gi/OdGiWorldDraw.h"
 
@@ -52,11 +52,35 @@ double right_end(const geom_multitext& text, const geom_line& line) {
   return is_terminator(last) ? last.x : last.x + last.size.advance;
 }
 
-/// True when codes come back from the logical text as they are written here.
-bool is_own_spelling(const std::u16string& codes, const format::string& base, double height) {
+/// Codes as they are written here.
+std::u16string spelled(const std::u16string& codes, const format::string& base, double height) {
   multitext read;
   parse(codes, base, read, {});
-  return serialize(read, base, height) == codes;
+  return serialize(read, base, height);
+}
+
+/// What codes show, without its looks and its blanks.
+std::u16string letters_of(const std::u16string& codes) {
+  multitext read;
+  parse(codes, {}, read, {});
+  std::u16string letters = serialize_raw(read, /*tilde_spaces=*/false);
+  std::erase(letters, u' ');
+  return letters;
+}
+
+/// What stands in one column of a text without fields. `current` is the format of the paragraph that begins
+/// or goes on at its top, and becomes that of the one at its end. What goes on has no first line.
+multitext text_of(const geom_multitext& text, const geom_column& column, format::paragraph& current) {
+  multitext result;
+  result.paragraph = current;
+  const bool goes_on = column.first > 0 && text.parts[column.first - 1].type() != part_new_paragraph;
+  if (goes_on) result.paragraph.indent = result.paragraph.before = 0;
+  for (std::size_t i = column.first; i < column.last; ++i) {
+    const part& logical = text.parts[i].part();
+    result.parts.push_back(logical.clone());
+    if (logical.type() == part_new_paragraph) current = static_cast<const new_paragraph&>(logical).paragraph;
+  }
+  return result;
 }
 
 }  // namespace
@@ -105,22 +129,23 @@ OdDbMTextMeasure mtext_layout::measure(const OdDbMText& text) {
   return {high.x - low.x, greatest_depth(laid), low + offset, high + offset};
 }
 
-std::vector<OdString> mtext_layout::columnContents(const OdDbMText& text) {
+std::vector<OdString> mtext_layout::columnContents(const OdDbMText& text, Spelling spelling) {
   const auto entity = pointer_to(text);
   const format::string base = drawn_mtext_format(entity);
   const double height = text.textHeight();
-  for (const OdString& contents : text.contentsByEntity()) {
-    if (!is_own_spelling(contents.str(), base, height)) return {};
-  }
+  const auto is_own_spelling = [&](const OdString& codes) {
+    return spelled(codes.str(), base, height) == codes.str();
+  };
+  const std::vector<OdString> before = text.contentsByEntity();
+  if (spelling == kKeepsSpelling && !std::all_of(before.begin(), before.end(), is_own_spelling)) return {};
   const auto laid = laid_out(text);
   if (!laid->marks.empty()) return {};
-  std::vector<OdString> contents;
-  for (const geom_column& column : laid->columns) {
-    geom_multitext part = laid->slice(column.first, column.last - column.first);
-    part.format = paragraph_at(*laid, column.first);
-    contents.push_back(serialize(flatten(part), base, height));
-  }
-  return contents;
+  std::vector<std::u16string> contents;
+  format::paragraph current = laid->format;
+  for (const geom_column& column : laid->columns)
+    contents.push_back(serialize(text_of(*laid, column, current), base, height));
+  const bool is_whole = letters_of(odJoinColumns(contents)) == letters_of(text.contents().str());
+  return is_whole ? std::vector<OdString>(contents.begin(), contents.end()) : std::vector<OdString>();
 }
 
 void mtext_layout::draw(const OdDbMText& text, OdGiWorldDraw& draw) {

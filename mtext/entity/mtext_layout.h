@@ -12,7 +12,7 @@ namespace mtext {
 class mtext_layout : public OdDbMTextLayout {
  public:
   OdDbMTextMeasure measure(const OdDbMText& text) override;
-  std::vector<OdString> columnContents(const OdDbMText& text) override;
+  std::vector<OdString> columnContents(const OdDbMText& text, Spelling spelling) override;
   void draw(const OdDbMText& text, OdGiWorldDraw& draw) override;
 
  protected:

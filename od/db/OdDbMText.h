@@ -149,7 +149,7 @@ class OdDbMText : public OdDbEntity {
   void spreadLinkedColumns();
   void setLinkedColumnCount(std::size_t count);
   void appendLinkedColumn();
-  void eraseLinkedColumn();
+  void eraseLinkedColumns(std::size_t first);
   void takeForm(const OdDbMText& first, std::size_t column);
   void writeLaidOutSize();
 

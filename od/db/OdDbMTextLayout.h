@@ -22,9 +22,11 @@ class OdDbMTextLayout {
   virtual ~OdDbMTextLayout() = default;
 
   virtual OdDbMTextMeasure measure(const OdDbMText& text) = 0;
-  /// What stands in each column, as a text that can stand alone: together they are the text. Empty when it
-  /// holds fields, or codes that would be written in another way.
-  virtual std::vector<OdString> columnContents(const OdDbMText& text) = 0;
+  /// Whether codes may come out written in another way than the text has them.
+  enum Spelling { kKeepsSpelling, kAnySpelling };
+  /// What stands in each column, as a text that can stand alone: together they are the text. Empty when that
+  /// cannot be told, as with fields, or not with that spelling.
+  virtual std::vector<OdString> columnContents(const OdDbMText& text, Spelling spelling) = 0;
   /// Draws the characters in text coordinates: the transform to the world is on the geometry's stack already,
   /// the entity's colour is set, and background and frame are drawn.
   virtual void draw(const OdDbMText& text, OdGiWorldDraw& draw) = 0;

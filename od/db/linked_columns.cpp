@@ -15,7 +15,8 @@ constexpr int kHandleInXdata = 1005;
 
 std::vector<dxf::Handle> odLinkedHandles(const dxf::Record& record) {
   std::vector<dxf::Handle> handles;
-  const auto block = Xdata::find(record, Xdata::kColumns);
+  // In the newest form one entity holds all columns, whatever was left behind of an older one.
+  const auto block = record.embedded_object() ? std::nullopt : Xdata::find(record, Xdata::kColumns);
   if (!block) return handles;
   for (const std::size_t i : record.find_all(kHandleInXdata, *block)) handles.push_back(record.get_handle(i));
   return handles;

@@ -20,15 +20,17 @@ constexpr int kMostNewColumns = 100;
 
 /// True when the columns behind the first are entities of their own in this drawing.
 bool OdDbMText::linksColumns() const {
-  return isDBRO() && !isLinkedColumn() && objectId().stub()->handleInFile &&
-         record().manner().version < dxf::R2018 && !record().embedded_object() && columns().type != 0;
+  return isDBRO() && !isLinkedColumn() && objectId().stub()->handleInFile && !record().embedded_object() &&
+         columns().type != 0;
 }
 
-/// What stands in each column; empty when nobody lays the text out or can tell.
+/// What stands in each column; empty when nobody lays the text out or can tell. Codes that nobody changed are
+/// not written in another way.
 std::vector<OdString> OdDbMText::laidOutColumns() const {
   if (!database() || !database()->textLayout()) return {};
+  const auto spelling = m_textChanged ? OdDbMTextLayout::kAnySpelling : OdDbMTextLayout::kKeepsSpelling;
   try {
-    return database()->textLayout()->columnContents(*this);
+    return database()->textLayout()->columnContents(*this, spelling);
   } catch (const std::exception&) {
     return {};  // a text that cannot be laid out stays where it is, and the drawing is saved
   }
@@ -59,16 +61,16 @@ void OdDbMText::appendLinkedColumn() {
   database()->drawing().appendPart(*objectId().stub(), *column);
 }
 
-void OdDbMText::eraseLinkedColumn() {
-  const OdDbObjectId last = linkedColumns().back();
-  last.openObject(OdDb::kForWrite)->erase();
-  std::erase(objectId().stub()->parts, last.stub());
+void OdDbMText::eraseLinkedColumns(std::size_t first) {
+  const std::vector<OdDbObjectId> columns = linkedColumns();
+  for (std::size_t i = first; i < columns.size(); ++i) columns[i].openObject(OdDb::kForWrite)->erase();
+  std::erase_if(objectId().stub()->parts, [](const OdDbStub* part) { return part->erased; });
 }
 
 void OdDbMText::setLinkedColumnCount(std::size_t count) {
   const std::size_t before = linkedColumns().size();
   for (std::size_t i = before; i < count; ++i) appendLinkedColumn();
-  for (std::size_t i = before; i > count; --i) eraseLinkedColumn();
+  if (count < before) eraseLinkedColumns(count);
   std::vector<dxf::Handle> handles;
   for (const OdDbObjectId& id : linkedColumns()) handles.push_back(id.handle().value());
   odSetLinkedHandles(record(), handles);
@@ -99,18 +101,21 @@ void OdDbMText::spreadLinkedColumns() {
   const std::vector<OdString> texts = laidOutColumns();
   OdDbMTextColumns columns = this->columns();
   const std::size_t present = linkedColumns().size() + 1;
-  const auto counted = static_cast<std::size_t>(std::max(1, columns.count));
+  // Columns of automatic height are not counted by everybody.
+  const auto counted =
+      std::max(static_cast<std::size_t>(std::max(1, columns.count)), columns.autoHeight ? present : 1);
   const std::size_t most = texts.empty() ? present : std::max<std::size_t>(present, kMostNewColumns);
   const std::size_t count = std::max(std::min(counted, most), texts.size());
   if (texts.empty() && count < present) putAllIntoFirst();
   setLinkedColumnCount(count - 1);
+  const bool formChanged = m_formChanged;  // a count that was wrong moves nothing
   columns.count = std::max(columns.count, static_cast<int>(count));
   setColumns(columns);
   const std::vector<OdDbMTextPtr> linked = openLinkedColumns(OdDb::kForWrite);
   if (!texts.empty()) setOwnContents(texts.front());
   for (std::size_t i = 0; i < linked.size(); ++i) {
     if (!texts.empty()) linked[i]->setOwnContents(i + 1 < texts.size() ? texts[i + 1] : OdString());
-    if (m_formChanged || i + 1 >= present) linked[i]->takeForm(*this, i + 1);
+    if (formChanged || i + 1 >= present) linked[i]->takeForm(*this, i + 1);
   }
 }
 

@@ -26,7 +26,7 @@ class FixedBox : public OdDbMTextLayout {
     const double left = text.attachment() == OdDb::kTopCenter ? -30 : 0;
     return {.width = 40, .height = 10, .minimum = {left, -12}, .maximum = {left + 40, 0}};
   }
-  std::vector<OdString> columnContents(const OdDbMText&) override { return {}; }
+  std::vector<OdString> columnContents(const OdDbMText&, Spelling) override { return {}; }
   void draw(const OdDbMText&, OdGiWorldDraw&) override {}
 };
 

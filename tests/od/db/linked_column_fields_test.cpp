@@ -30,7 +30,9 @@ OdDbFieldPtr shownField(std::u16string_view code, const OdString& text) {
 struct TwoColumnLayout : OdDbMTextLayout {
   OdDbMTextMeasure measure(const OdDbMText&) override { return {}; }
   void draw(const OdDbMText&, OdGiWorldDraw&) override {}
-  std::vector<OdString> columnContents(const OdDbMText& text) override { return {text.contents(), u""}; }
+  std::vector<OdString> columnContents(const OdDbMText& text, Spelling) override {
+    return {text.contents(), u""};
+  }
 };
 
 /// A text of two columns in an old drawing, each with a field: "At noon\N" and "by ann".

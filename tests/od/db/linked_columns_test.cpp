@@ -56,7 +56,7 @@ std::string threeColumns(const std::string& attachment = "1") {
 struct BreakLayout : OdDbMTextLayout {
   OdDbMTextMeasure measure(const OdDbMText&) override { return {8, 4, {0, -4}, {8, 0}}; }
   void draw(const OdDbMText&, OdGiWorldDraw&) override {}
-  std::vector<OdString> columnContents(const OdDbMText& text) override {
+  std::vector<OdString> columnContents(const OdDbMText& text, Spelling) override {
     std::vector<OdString> columns;
     const std::u16string contents = text.contents().str();
     std::size_t begin = 0;
@@ -66,6 +66,13 @@ struct BreakLayout : OdDbMTextLayout {
     }
     columns.emplace_back(contents.substr(begin));
     return columns;
+  }
+};
+
+/// The same, which would write the codes of every text in another way.
+struct RespellingLayout : BreakLayout {
+  std::vector<OdString> columnContents(const OdDbMText& text, Spelling spelling) override {
+    return spelling == kAnySpelling ? BreakLayout::columnContents(text, spelling) : std::vector<OdString>();
   }
 };
 
@@ -302,6 +309,51 @@ TEST(LinkedColumns, a_column_that_tells_of_columns_itself_gets_none_of_its_own) 
   const Sample saved(sample.database->writeBytes());
   EXPECT_EQ(saved.entities().size(), 1U);
   EXPECT_EQ(saved.text()->contentsByEntity(), (Texts{u"a\\N", u"b"}));
+}
+
+TEST(LinkedColumns, codes_are_written_in_another_way_only_where_the_text_was_changed) {
+  const Sample moved(threeColumns()), changed(threeColumns());
+  for (const Sample& each : {moved, changed})
+    each.database->setTextLayout(std::make_shared<RespellingLayout>());
+  moved.text()->setTextHeight(2);
+  changed.text()->setContents(u"a\\Nb\\Nc");
+  EXPECT_EQ(Sample::saved(moved.database), (Texts{u"one\\N", u"two\\N", u"three"}));
+  EXPECT_EQ(Sample::saved(changed.database), (Texts{u"a\\N", u"b\\N", u"c"}));
+}
+
+TEST(LinkedColumns, columns_of_automatic_height_that_nobody_counted_stay) {
+  const Sample sample(drawing(text("20", "1 one\\N " + columnInfo(2, 1, 0) + linked("1005 21 1005 22")) +
+                              text("21", "1 two\\N") + text("22", "1 three")));
+  sample.text()->setTextHeight(2);
+  EXPECT_EQ(Sample::saved(sample.database), (Texts{u"one\\N", u"two\\N", u"three"}));
+}
+
+TEST(LinkedColumns, a_wrong_count_that_is_put_right_moves_none_of_them) {
+  const Sample sample = laidOut(
+      drawing(text("20", "1 one\\N " + columnInfo(1, 0, 1) + linked("1005 21")) + text("21", "1 two")));
+  sample.text()->setContents(u"a\\Nb");
+  const Sample saved(sample.database->writeBytes());
+  EXPECT_EQ(saved.text()->getColumnCount(), 2);
+  EXPECT_EQ(saved.byHandle(0x21)->location().x, 0);
+}
+
+TEST(LinkedColumns, a_new_drawing_that_has_them_in_the_old_form_keeps_it) {
+  std::string bytes = threeColumns();
+  bytes.replace(bytes.find("AC1021"), 6, "AC1032");
+  const Sample sample = laidOut(bytes);
+  sample.text()->setContents(u"a\\Nb\\Nc");
+  EXPECT_EQ(Sample::saved(sample.database), (Texts{u"a\\N", u"b\\N", u"c"}));
+}
+
+TEST(LinkedColumns, a_text_in_the_newest_form_has_none_whatever_its_old_form_names) {
+  std::string bytes = threeColumns();
+  bytes.replace(bytes.find("AC1021"), 6, "AC1032");
+  bytes.insert(bytes.find("1001\n"), lines("101 Embedded~Object 70 1 71 1 72 2 44 10.0 45 2.0"));
+  const Sample sample = laidOut(bytes);
+  EXPECT_EQ(sample.entities().size(), 3U);
+  EXPECT_EQ(sample.text()->contents(), OdString(u"one\\N"));
+  sample.text()->setContents(u"other");
+  EXPECT_EQ(Sample(sample.database->writeBytes()).text(1)->contents(), OdString(u"two\\N"));
 }
 
 namespace {

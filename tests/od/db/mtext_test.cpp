@@ -39,7 +39,7 @@ struct Sample {
 /// A layout that says every text is 8 wide and 4 high, below and to the right of the location.
 struct FixedLayout : OdDbMTextLayout {
   OdDbMTextMeasure measure(const OdDbMText&) override { return {8, 4, {0, -4}, {8, 0}}; }
-  std::vector<OdString> columnContents(const OdDbMText&) override { return {}; }
+  std::vector<OdString> columnContents(const OdDbMText&, Spelling) override { return {}; }
   void draw(const OdDbMText&, OdGiWorldDraw& draw) override {
     draw.geometry().polyline({OdGePoint3d{0, 0, 0}, OdGePoint3d{8, -4, 0}});
   }
