@@ -1,8 +1,5 @@
 #include <gtest/gtest.h>
 
-#include <chrono>
-#include <sstream>
-
 #include "od/db/OdDbBlockTableRecord.h"
 #include "od/db/OdDbDatabase.h"
 #include "od/db/OdDbDictionary.h"
@@ -354,32 +351,4 @@ TEST(LinkedColumns, a_text_in_the_newest_form_has_none_whatever_its_old_form_nam
   EXPECT_EQ(sample.text()->contents(), OdString(u"one\\N"));
   sample.text()->setContents(u"other");
   EXPECT_EQ(Sample(sample.database->writeBytes()).text(1)->contents(), OdString(u"two\\N"));
-}
-
-namespace {
-
-/// How long a drawing takes to be saved in which `count` texts have got a second column.
-std::chrono::duration<double> timeToSave(int count) {
-  std::string texts;
-  for (int i = 0; i < count; ++i) {
-    std::ostringstream handle;
-    handle << std::hex << 0x1000 + i;
-    texts += text(handle.str(), "1 one\\Ntwo " + columnInfo(1, 0, 2));
-  }
-  const Sample sample = laidOut(drawing(texts));
-  const std::vector<OdDbObjectId> all = sample.entities();
-  for (const OdDbObjectId& id : all) odOpen<OdDbMText>(id, OdDb::kForWrite)->setContents(u"a\\Nb");
-  const auto begin = std::chrono::steady_clock::now();
-  const std::string saved = sample.database->writeBytes();
-  const std::chrono::duration<double> taken = std::chrono::steady_clock::now() - begin;
-  const Sample again(saved);
-  EXPECT_EQ(again.entities().size(), all.size());
-  EXPECT_EQ(again.text(all.size() - 1)->contentsByEntity(), (Texts{u"a\\N", u"b"}));
-  return taken;
-}
-
-}  // namespace
-
-TEST(LinkedColumns, many_texts_that_need_more_of_them_do_not_cost_the_square_of_their_number) {
-  EXPECT_LT(timeToSave(8000) / timeToSave(1000), 24);  // 64 where each costs a walk through the file
 }
