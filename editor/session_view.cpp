@@ -1,7 +1,7 @@
 #include "editor/smart_edit.h"
 #include "host/application.h"
 #include "host/exports.h"
-#include "host/profile.h"
+#include "host/turned_text.h"
 #include "host/view.h"
 #include "host/view_overlay.h"
 
@@ -20,7 +20,7 @@ editing::shown_text smart_edit::shownText() const {
 
 void smart_edit::placeInView() {
   HostApplication* application = host::application();
-  const bool turn_text = !application || application->profile().number(u"Text", u"Rotate", 1) != 0;
+  const bool turn_text = !application || host::turns_edited_text(application->profile());
   switch (m_view_policy.text_changed(m_host.view().gsView(), shownText(), turn_text)) {
     case view_policy::outcome::kLeft:
       return;

@@ -9,6 +9,7 @@
 #include "desk/commands/quit_command.h"
 #include "desk/commands/save_as_command.h"
 #include "desk/commands/save_command.h"
+#include "desk/commands/turn_text_command.h"
 #include "desk/commands/zoom_command.h"
 #include "host/command_factory.h"
 
@@ -19,7 +20,7 @@ OdSmartPtr<ICmdProcess> make(Desk& desk) {
   return OdSmartPtr<ICmdProcess>(new Command(desk), kOdRxObjAttach);
 }
 
-constexpr std::array<DeskCommandRow, 8> kCommands{{
+constexpr std::array<DeskCommandRow, 9> kCommands{{
     {u"Fonts", u"Lists the fonts that are missing here, and what stands in for them.", make<FontsCommand>},
     {u"Help", u"Lists the commands.", make<HelpCommand>},
     {u"Open", u"Opens another drawing.", make<OpenCommand>},
@@ -27,6 +28,8 @@ constexpr std::array<DeskCommandRow, 8> kCommands{{
     {u"Quit", u"Leaves the program.", make<QuitCommand>},
     {u"Save", u"Saves the drawing under its name.", make<SaveCommand>},
     {u"SaveAs", u"Saves the drawing under another name.", make<SaveAsCommand>},
+    {u"TurnText", u"Chooses whether a text that cannot be read is turned while it is edited, or the view.",
+     make<TurnTextCommand>},
     {u"Zoom", u"Shows the whole drawing, or a part of it that two corners tell.", make<ZoomCommand>},
 }};
 

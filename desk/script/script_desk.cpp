@@ -5,6 +5,7 @@
 #include "desk/document/space_extents.h"
 #include "desk/document/view_motion.h"
 #include "host/prompt.h"
+#include "host/turned_text.h"
 
 namespace {
 constexpr OdGsDeviceRect kPixels{0, 0, 1280, 800};
@@ -35,7 +36,7 @@ ScriptDesk::ScriptDesk(OdDbDatabasePtr drawing, Script script, ScriptCommandLine
   m_fields.setSource(m_source);
   m_view->gsView().setDeviceRect(kPixels);
   // Nobody looks on: the points of a script are points of the drawing, also within a text.
-  m_profile.setNumber(u"Text", u"Rotate", 0);
+  host::set_turns_edited_text(m_profile, false);
   show(std::move(drawing));
 }
 

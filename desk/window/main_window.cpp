@@ -49,6 +49,9 @@ void MainWindow::addMenus() {
   m_dark = view->addAction(tr("&Dark Background"));
   m_dark->setCheckable(true);
   connect(m_dark, &QAction::triggered, this, &MainWindow::darkBackgroundChosen);
+  m_turned = view->addAction(tr("&Turn Edited Text to the Screen"));
+  m_turned->setCheckable(true);
+  connect(m_turned, &QAction::triggered, this, &MainWindow::turnedTextChosen);
 
   QMenu* help = menuBar()->addMenu(tr("&Help"));
   addCommand(*help, tr("&Commands"), {}, {"Help"});
@@ -74,6 +77,8 @@ void MainWindow::showTitle(const QString& file, bool modified) {
 }
 
 void MainWindow::showDarkBackground(bool dark) { m_dark->setChecked(dark); }
+
+void MainWindow::showTurnedText(bool turns) { m_turned->setChecked(turns); }
 
 void MainWindow::showCoordinates(double x, double y) {
   m_coordinates->setText(QString::number(x, 'f', kDecimals) + ", " + QString::number(y, 'f', kDecimals));

@@ -19,8 +19,9 @@ class MainWindow : public QMainWindow {
   CommandPanel& panel() { return *m_panel; }
   /// The name of the drawing and whether it has changes that are not saved.
   void showTitle(const QString& file, bool modified);
-  /// Checks the menu entry without sending a signal.
+  /// Check a menu entry without sending a signal.
   void showDarkBackground(bool dark);
+  void showTurnedText(bool turns);
   /// Where the cursor is, in drawing units.
   void showCoordinates(double x, double y);
 
@@ -28,6 +29,7 @@ class MainWindow : public QMainWindow {
   /// A menu entry that stands for a command line was chosen, such as "Zoom Extents".
   void commandChosen(const QStringList& lines);
   void darkBackgroundChosen(bool dark);
+  void turnedTextChosen(bool turns);
 
  protected:
   void closeEvent(QCloseEvent* event) override;
@@ -41,4 +43,5 @@ class MainWindow : public QMainWindow {
   CommandPanel* m_panel;
   QLabel* m_coordinates;
   QAction* m_dark = nullptr;
+  QAction* m_turned = nullptr;
 };

@@ -15,6 +15,7 @@
 #include "desk/window/qt_text.h"
 #include "host/command_factory.h"
 #include "host/profile.h"
+#include "host/turned_text.h"
 
 namespace {
 constexpr std::u16string_view kSection = u"Desk";
@@ -76,6 +77,8 @@ void WindowDesk::connectWidgets() {
   QObject::connect(&edit, &CommandEdit::cancelled, [this] { m_source.push(HostCancel{}); });
   QObject::connect(&m_window, &MainWindow::commandChosen, [this](const QStringList& lines) { type(lines); });
   QObject::connect(&m_window, &MainWindow::darkBackgroundChosen, [this](bool dark) { setBackground(dark); });
+  QObject::connect(&m_window, &MainWindow::turnedTextChosen,
+                   [this](bool turns) { host::set_turns_edited_text(m_profile, turns); });
 }
 
 void WindowDesk::send(HostWindowMessage message) {
@@ -142,6 +145,7 @@ void WindowDesk::beIdle() {
   view.paintIfStale();
   if (view.underMouse()) showCoordinates();
   for (const OdString& sentence : view.painter().takeDiagnostics()) m_line.write(sentence.str());
+  m_window.showTurnedText(host::turns_edited_text(m_profile));
   m_window.showTitle(toQt(textOf(file().filename())), document().database().isModified());
 }
 
