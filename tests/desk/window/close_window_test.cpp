@@ -6,12 +6,12 @@
 #include <QTimer>
 #include <optional>
 
-#include "desk/window/main_window.h"
 #include "desk/window/window_desk.h"
 #include "host/command.h"
 #include "host/command_factory.h"
 #include "host/profile.h"
 #include "host/prompt.h"
+#include "tests/desk/window/open_main_window.h"
 
 namespace {
 
@@ -50,12 +50,6 @@ class Answers {
   QTimer m_timer;
   int m_count = 0;
 };
-
-MainWindow* mainWindow() {
-  for (QWidget* each : QApplication::topLevelWidgets())
-    if (auto* main = qobject_cast<MainWindow*>(each)) return main;
-  return nullptr;
-}
 
 }  // namespace
 

@@ -6,18 +6,12 @@
 #include <QMenuBar>
 #include <QTimer>
 
-#include "desk/window/main_window.h"
 #include "desk/window/window_desk.h"
 #include "host/profile.h"
 #include "host/turned_text.h"
+#include "tests/desk/window/open_main_window.h"
 
 namespace {
-
-MainWindow* mainWindow() {
-  for (QWidget* each : QApplication::topLevelWidgets())
-    if (auto* main = qobject_cast<MainWindow*>(each)) return main;
-  return nullptr;
-}
 
 QAction* turnEntry() {
   for (QAction* menu : mainWindow()->menuBar()->actions())

@@ -8,17 +8,10 @@
 #include "od/db/OdDbMText.h"
 #include "od/db/OdDbText.h"
 #include "od/field/OdDbField.h"
+#include "tests/od/db/group_lines.h"
 #include "tests/od/db/sample_drawings.h"
 
 namespace {
-
-std::string lines(std::string groups) {
-  for (char& c : groups) {
-    if (c == ' ') c = '\n';
-    if (c == '~') c = ' ';
-  }
-  return groups + "\n";
-}
 
 /// A text "####" (checksum 350) with a field of one child in its extension dictionary.
 std::string textWithField(const std::string& text) {

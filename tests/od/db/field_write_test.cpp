@@ -12,6 +12,7 @@
 #include "od/db/OdDbText.h"
 #include "od/db/evaluate_fields.h"
 #include "od/field/OdDbField.h"
+#include "tests/od/db/made_fields.h"
 #include "tests/od/db/sample_drawings.h"
 
 namespace {
@@ -22,21 +23,6 @@ OdSmartPtr<T> added(OdDbDatabase& database) {
   odOpen<OdDbBlockTableRecord>(database.getModelSpaceId(), OdDb::kForWrite)->appendOdDbEntity(entity.get());
   return entity;
 }
-
-OdDbFieldPtr container(const OdString& code, std::vector<OdDbFieldPtr> children) {
-  auto field = odNew<OdDbField>();
-  field->setFieldCode(code, OdDbField::kTextField | OdDbField::kPreserveFields, std::move(children));
-  return field;
-}
-
-/// A field of which the value is known, whatever the day.
-OdDbFieldPtr shownField(std::u16string_view code, const OdString& text) {
-  OdDbFieldPtr field = OdDbField::createFromCode(code);
-  field->setEvaluation(text, text, OdDbField::kSuccess);
-  return field;
-}
-
-OdDbFieldPtr fieldOf(const OdDbObject& host) { return odCast<OdDbField>(host.getField(u"TEXT")); }
 
 OdDbDatabasePtr savedAndRead(OdDbDatabase& database) {
   return OdDbDatabase::readBytes(database.writeBytes(), "again");

@@ -6,25 +6,11 @@
 #include "od/db/OdDbMText.h"
 #include "od/db/mtext_columns.h"
 #include "od/field/OdDbField.h"
+#include "tests/od/db/made_fields.h"
 
 // Fields in texts whose further columns are entities of their own.
 
 namespace {
-
-OdDbFieldPtr fieldOf(const OdDbObject& host) { return odCast<OdDbField>(host.getField(u"TEXT")); }
-
-OdDbFieldPtr container(const OdString& code, std::vector<OdDbFieldPtr> children) {
-  auto field = odNew<OdDbField>();
-  field->setFieldCode(code, OdDbField::kTextField | OdDbField::kPreserveFields, std::move(children));
-  return field;
-}
-
-/// A field of which the value is known, whatever the day.
-OdDbFieldPtr shownField(std::u16string_view code, const OdString& text) {
-  OdDbFieldPtr field = OdDbField::createFromCode(code);
-  field->setEvaluation(text, text, OdDbField::kSuccess);
-  return field;
-}
 
 /// All text in the first of two columns.
 struct TwoColumnLayout : OdDbMTextLayout {

@@ -6,18 +6,11 @@
 #include "od/db/OdDbMText.h"
 #include "od/db/mtext_columns.h"
 #include "od/field/OdDbField.h"
+#include "tests/od/db/group_lines.h"
 
 // Texts of drawings before R2018 whose further columns are entities of their own.
 
 namespace {
-
-std::string lines(std::string groups) {
-  for (char& c : groups) {
-    if (c == ' ') c = '\n';
-    if (c == '~') c = ' ';
-  }
-  return groups + "\n";
-}
 
 std::string text(const std::string& handle, const std::string& groups) {
   return "0 MTEXT 5 " + handle +

@@ -8,16 +8,9 @@
 #include "od/db/OdDbMText.h"
 #include "od/db/field_reader.h"
 #include "od/gi/OdGiRecorder.h"
+#include "tests/od/db/group_lines.h"
 
 namespace {
-
-std::string lines(std::string groups) {
-  for (char& c : groups) {
-    if (c == ' ') c = '\n';
-    if (c == '~') c = ' ';
-  }
-  return groups + "\n";
-}
 
 std::string file(const std::string& version, const std::string& groups, const std::string& objects = "") {
   return lines("0 SECTION 2 HEADER 9 $ACADVER 1 " + version +
